@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "platform/Registry.h"
+
+namespace ZyxPlatform {
+
+std::unique_ptr<QSettings> openIdentityStore()
+{
+    // A file of the organisation alone: the application's own lies in the folder of another organisation.
+    auto store = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("ZyxLabs"));
+    store->setFallbacksEnabled(false); // a file of the machine would give all its users one identity
+    return store;
+}
+
+} // namespace ZyxPlatform
