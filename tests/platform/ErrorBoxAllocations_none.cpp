@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "platform/ErrorBoxAllocations.h"
+
+namespace TestSupport {
+
+ErrorBoxAllocations::ErrorBoxAllocations() = default;
+
+ErrorBoxAllocations::~ErrorBoxAllocations()
+{
+    stop();
+}
+
+int ErrorBoxAllocations::stop()
+{
+    return 0;
+}
+
+bool ErrorBoxAllocations::areCounted()
+{
+    return false;
+}
+
+bool ErrorBoxAllocations::areCountedInLibraries()
+{
+    return false;
+}
+
+} // namespace TestSupport
