@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QString>
+
+/*! What the command line asks for. */
+struct Options
+{
+    QString workFolder; // for preferences, settings, logs and data
+    QString preferencesFile;
+    QString photos; // a folder, or one photograph in it
+    QString snapshot; // PNG file to write of the window, empty for none
+    bool temporarySettings = false;
+    bool consoleLog = false;
+    bool leave = false; // as soon as the first photograph is shown
+};
+
+/*! Parses the running application's arguments; with wrong ones, or for "--help", the process ends here. */
+Options parseOptions();

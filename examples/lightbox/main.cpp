@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "LightboxApplication.h"
+#include "MainWindow.h"
+#include "Options.h"
+#include "OwnStore.h"
+#include "StartUp.h"
+
+#include <QtCore/QTextStream>
+#include <QtCore/QTimer>
+
+namespace {
+
+/*! What the command line asked for beyond looking at photographs. */
+void finishStart(CMainWindow &window, const Options &options)
+{
+    if (!options.snapshot.isEmpty() && !window.grab().save(options.snapshot)) {
+        QTextStream(stderr) << "lightbox: " << options.snapshot << " could not be written" << Qt::endl;
+    }
+    if (options.leave) {
+        window.close();
+    }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    CLightboxApplication application(argc, argv);
+    const Options options = parseOptions();
+    useOwnStore(options.workFolder);
+
+    CStartUp startUp(options);
+    startUp.reportModule();
+    startUp.choosePreferencesFile();
+    startUp.initializeStorage();
+    startUp.chooseSettings();
+    startUp.startLog();
+
+    CMainWindow window(options.photos);
+    application.setMainWindow(&window);
+    window.show();
+    startUp.reportMainWindow();
+    startUp.noteLaunch();
+
+    // Queued: the window has been painted by then. Once: only the start is meant.
+    QObject::connect(
+        &window, &CMainWindow::currentShown, &window, [&] { finishStart(window, options); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
+    const int result = CLightboxApplication::exec();
+    QTextStream(stdout) << "8 left" << Qt::endl;
+    return result;
+}

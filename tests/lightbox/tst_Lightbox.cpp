@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "support/Sandbox.h"
+
+#include "utilsDll/frame/SharedConstants.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSettings>
+#include <QtGui/QImage>
+#include <QtTest/QTest>
+
+using namespace ZYX_zglv6;
+
+namespace {
+
+constexpr int watchdogMs = 60'000;
+
+struct Run
+{
+    bool isClean = false;
+    QStringList lines;
+    QString errors;
+
+    /*! What the host said in its step \a number. */
+    QString step(int number) const
+    {
+        const QStringList found = lines.filter(QRegularExpression(u"^%1 "_qs.arg(number)));
+        return found.size() == 1 ? found.front() : u"%1 lines for step %2"_qs.arg(found.size()).arg(number);
+    }
+};
+
+} // namespace
+
+class tst_Lightbox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void start_printsOneLineForEachStep();
+    void start_readsTheGivenPreferencesFile();
+    void secondStart_isNotTheFirstLaunchAndHasRolledTheLog();
+    void temporarySettings_leaveNoTraceOfTheLaunch();
+    void consoleLog_goesToTheStandardOutput();
+    void snapshot_showsThePhotograph();
+    void unreadablePhotograph_isToldAndLeaves();
+    void missingPhotograph_isTold();
+    void emptyFolder_isNoError();
+    void foreignNamesWithPlaceMarkers_areShownAsTheyAre();
+    void preferencesFileThatCannotBeWritten_isTold();
+    void wrongOption_endsWithoutStarting();
+    void emptyPreferencesFile_endsWithoutStarting();
+
+private:
+    Run run(const QStringList &arguments) const;
+    QString dataFolder() const;
+
+    TestSupport::Sandbox m_sandbox;
+    int m_count = 0;
+    QString m_workFolder;
+};
+
+void tst_Lightbox::init()
+{
+    m_workFolder = m_sandbox.filePath(u"work %1"_qs.arg(++m_count));
+#ifdef Q_OS_WIN
+    // The example's settings are one registry key there, which each test starts without.
+    QProcess::execute(u"reg"_qs, {u"delete"_qs, u"HKCU\\Software\\UtilsDllzglv6 Lightbox"_qs, u"/f"_qs});
+#endif
+}
+
+Run tst_Lightbox::run(const QStringList &arguments) const
+{
+    QProcess host;
+    host.start(QDir(QCoreApplication::applicationDirPath()).filePath(u"lightbox"_qs),
+               QStringList{u"--leave"_qs, u"--data"_qs, m_workFolder} + arguments);
+    Run result;
+    result.isClean
+        = host.waitForFinished(watchdogMs) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
+    result.lines = QString::fromLocal8Bit(host.readAllStandardOutput()).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
+    result.errors = QString::fromLocal8Bit(host.readAllStandardError());
+    host.kill();
+    host.waitForFinished();
+    return result;
+}
+
+QString tst_Lightbox::dataFolder() const
+{
+    return m_workFolder + u"/data/";
+}
+
+void tst_Lightbox::start_printsOneLineForEachStep()
+{
+    const Run first = run({});
+    QVERIFY2(first.isClean, qPrintable(first.errors));
+    QVERIFY2(first.step(1).contains(u" 6.4.0.314; embedded files in place"), qPrintable(first.step(1)));
+    QVERIFY(first.step(2).endsWith(QDir::toNativeSeparators(m_workFolder + u"/Preferences.ini")));
+    QVERIFY2(first.step(3).contains(u"data in "_qs + dataFolder()), qPrintable(first.step(3)));
+    QVERIFY(first.step(4).endsWith(u"in the system store"));
+    QVERIFY(first.step(5).endsWith(u"lightbox.txt, logs of earlier runs: 0"));
+    QVERIFY(!first.step(6).endsWith(u" 0x0"));
+    QVERIFY2(first.step(7).contains(u"the first, last mode \"\", user "), qPrintable(first.step(7)));
+    QCOMPARE(first.step(8), u"8 left"_qs);
+    QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
+}
+
+void tst_Lightbox::start_readsTheGivenPreferencesFile()
+{
+    const QString preferencesFile = m_sandbox.filePath(u"own.ini"_qs);
+    const QString data = m_sandbox.filePath(u"photo data"_qs);
+    {
+        QSettings preferences(preferencesFile, QSettings::IniFormat);
+        preferences.setValue(dataDirectoryKey, data);
+    }
+    const Run host = run({u"--preferencesFile"_qs, preferencesFile});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.step(3).contains(u"data in "_qs + data + u"/;"), qPrintable(host.step(3)));
+    QVERIFY(QFile::exists(data + u"/Logs/lightbox.txt"));
+}
+
+void tst_Lightbox::secondStart_isNotTheFirstLaunchAndHasRolledTheLog()
+{
+    QVERIFY(run({}).isClean);
+    const Run second = run({});
+    QVERIFY2(second.isClean, qPrintable(second.errors));
+    QVERIFY(second.step(5).endsWith(u"logs of earlier runs: 1"));
+    QVERIFY2(second.step(7).contains(u"not the first, last mode \"Standalone\""), qPrintable(second.step(7)));
+    QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt.1"));
+}
+
+void tst_Lightbox::temporarySettings_leaveNoTraceOfTheLaunch()
+{
+    const Run throwAway = run({u"--temporarySettings"_qs});
+    QVERIFY2(throwAway.isClean, qPrintable(throwAway.errors));
+    QVERIFY2(throwAway.step(4).contains(u"zglv6.ini"), qPrintable(throwAway.step(4)));
+    QVERIFY(!QFile::exists(throwAway.step(4).section(u"throw-away, in "_qs, 1)));
+    QVERIFY(run({}).step(7).contains(u"the first"));
+}
+
+void tst_Lightbox::consoleLog_goesToTheStandardOutput()
+{
+    const Run host = run({u"--console-log"_qs});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QCOMPARE(host.lines.filter(u"ZYX_zglv6::initLogger: Zyx Grainlab 6 Version: 6.4.0.314"_qs).size(), 1);
+    QVERIFY(!QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
+}
+
+void tst_Lightbox::snapshot_showsThePhotograph()
+{
+    const QString picture = m_sandbox.filePath(u"window.png"_qs);
+    const Run host = run({u"--snapshot"_qs, picture, QStringLiteral(LIGHTBOX_SAMPLES "/mountain-lake.jpg")});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+
+    const QImage window(picture);
+    QVERIFY(!window.isNull());
+    const QImage photo = QImage(QStringLiteral(LIGHTBOX_SAMPLES "/mountain-lake.jpg"))
+                             .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QRect middle
+        = QRect(0, 0, window.width() / 2, window.height() / 2).translated(window.width() / 4, window.height() / 4);
+    const QColor shown
+        = window.copy(middle).scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
+    const QColor expected = photo.pixelColor(0, 0);
+    QVERIFY(qAbs(shown.red() - expected.red()) < 40);
+    QVERIFY(qAbs(shown.green() - expected.green()) < 40);
+    QVERIFY(qAbs(shown.blue() - expected.blue()) < 40);
+    QCOMPARE(window.pixelColor(4, window.height() / 2), QColor(0x23, 0x23, 0x23));
+}
+
+void tst_Lightbox::unreadablePhotograph_isToldAndLeaves()
+{
+    const QString path = m_sandbox.filePath(u"broken.jpg"_qs);
+    QFile broken(path);
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("no picture at all");
+    broken.close();
+
+#ifdef Q_OS_WIN
+    QSKIP("The message box of Windows waits for its user.");
+#endif
+    const Run host = run({path});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.errors.contains(u"Error: Sorry, but this file type is not supported. Please, try again."),
+             qPrintable(host.errors));
+    QFile log(dataFolder() + u"Logs/lightbox.txt");
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    QVERIFY(log.readAll().contains("broken.jpg: "));
+}
+
+void tst_Lightbox::missingPhotograph_isTold()
+{
+#ifdef Q_OS_WIN
+    QSKIP("The message box of Windows waits for its user.");
+#endif
+    const Run host = run({QStringLiteral(LIGHTBOX_SAMPLES "/no-such.jpg")});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.errors.contains(u"Error: Sorry, but this file type is not supported. Please, try again."),
+             qPrintable(host.errors));
+}
+
+void tst_Lightbox::emptyFolder_isNoError()
+{
+    const QString folder = m_sandbox.filePath(u"no photographs"_qs);
+    QVERIFY(QDir().mkpath(folder));
+    const Run host = run({folder});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(!host.errors.contains(u"Error: "), qPrintable(host.errors));
+}
+
+void tst_Lightbox::foreignNamesWithPlaceMarkers_areShownAsTheyAre()
+{
+    m_workFolder = m_sandbox.filePath(u"work %1 %2"_qs);
+    const Run host = run({});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.step(5).contains(u"work %1 %2"), qPrintable(host.step(5)));
+    QVERIFY2(host.step(5).endsWith(u"earlier runs: 0"), qPrintable(host.step(5)));
+}
+
+void tst_Lightbox::preferencesFileThatCannotBeWritten_isTold()
+{
+    QFile file(m_sandbox.filePath(u"a file"_qs));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const Run host = run({u"--preferencesFile"_qs, file.fileName() + u"/Preferences.ini"});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.step(2).endsWith(u"which can't be written: defaults apply"), qPrintable(host.step(2)));
+}
+
+void tst_Lightbox::wrongOption_endsWithoutStarting()
+{
+    const Run host = run({u"--no-such-option"_qs});
+    QVERIFY(!host.isClean);
+    QCOMPARE(host.lines, QStringList());
+    QVERIFY(!QFile::exists(m_workFolder));
+}
+
+void tst_Lightbox::emptyPreferencesFile_endsWithoutStarting()
+{
+    const Run host = run({u"--preferencesFile="_qs});
+    QVERIFY(!host.isClean);
+    QVERIFY2(host.errors.contains(u"the preferences file has no name"), qPrintable(host.errors));
+    QVERIFY(!QFile::exists(m_workFolder));
+}
+
+QTEST_MAIN(tst_Lightbox)
+
+#include "tst_Lightbox.moc"
