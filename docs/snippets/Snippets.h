@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDir>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <functional>
+
+/*! The examples of the pages in docs/. The pages show them word for word, and tests/docs runs them. */
+namespace Snippets {
+
+// frame.cpp
+
+QByteArray readCurve(const QString &path);
+int exposureTimeMs(int framesPerSecond);
+int numberOfNextFrame();
+int runGuarded(const std::function<int()> &work);
+bool isOlderThan(const QString &processName, quint32 major, quint32 minor);
+
+struct MainWindowHandles
+{
+    quint64 withoutWindow;
+    quint64 withWindow;
+    quint64 windowsOwn;
+};
+
+/*! Makes the host's application object for as long as it runs. */
+MainWindowHandles mainWindowHandles(int argc, char *argv[]);
+
+// settings.cpp
+
+void rememberZoom(int percent);
+int lastZoom();
+void restoreZoomOnChange(QObject *view, const std::function<void(int)> &applyZoom);
+void runWithThrowAwaySettings(const std::function<void()> &work);
+QStringList redirectedKeys(const QDir &folder);
+QString preferencesFile(const QStringList &arguments);
+QString greeting();
+
+// storageLocation.cpp
+
+void pointAtPreferences(const QString &path);
+QString contactSheetPath(const QString &name);
+bool isStorageKnown();
+
+// loggerSupport.cpp
+
+void startLog(const QString &name);
+void keepOnlyErrors();
+
+// platform.cpp
+
+QString versionText(const QString &path);
+
+} // namespace Snippets
