@@ -12,6 +12,13 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# The ending of the sources that are this system's: X_win.cpp, X_unix.cpp.
+if(WIN32)
+    set(ZYX_SYSTEM win)
+else()
+    set(ZYX_SYSTEM unix)
+endif()
+
 # Programs and libraries side by side, so that Windows finds the libraries.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
