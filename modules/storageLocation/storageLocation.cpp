@@ -81,8 +81,8 @@ void CStorageLocation::initializeFromPreferencesFile(const QString &path)
 {
     setPreferencesFilePath(path);
     setDataDirectory(preferredPath(dataDirectoryKey, dataLocationInUserFolder(productDisplayName, true)));
-    setCafDbFilePath(
-        preferredPath(cafDbFilePathKey, getCafDbFilePathDefault())); // its default lies in the data directory
+    // The defaults of the other two lie in the data directory, which has to be set by now.
+    setCafDbFilePath(preferredPath(cafDbFilePathKey, getCafDbFilePathDefault()));
     setCafModulesPath(preferredPath(cafModulesPathKey, getCafModulesPathDefault()));
 }
 

@@ -16,6 +16,9 @@ public:
 
     int stop();
 
+    /*! For the functions in the heap's place. */
+    static void countOne();
+
     /*! False where a checker of memory has put its own functions in the heap's place. */
     static bool areCounted();
 

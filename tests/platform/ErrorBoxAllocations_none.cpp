@@ -4,18 +4,6 @@
 
 namespace TestSupport {
 
-ErrorBoxAllocations::ErrorBoxAllocations() = default;
-
-ErrorBoxAllocations::~ErrorBoxAllocations()
-{
-    stop();
-}
-
-int ErrorBoxAllocations::stop()
-{
-    return 0;
-}
-
 bool ErrorBoxAllocations::areCounted()
 {
     return false;

@@ -7,20 +7,6 @@
 
 // The program's own malloc and its kin come before those of the C library, for all libraries of the process.
 
-namespace {
-
-thread_local bool isCounting = false;
-thread_local int count = 0;
-
-void countOne() noexcept
-{
-    if (isCounting) {
-        ++count;
-    }
-}
-
-} // namespace
-
 #define ZYX_TEST_HEAP_FUNCTION extern "C" __attribute__((visibility("default")))
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the C library's own, behind the functions below
@@ -34,59 +20,42 @@ void *__libc_memalign(std::size_t alignment, std::size_t size);
 
 ZYX_TEST_HEAP_FUNCTION void *malloc(std::size_t size) noexcept
 {
-    countOne();
+    TestSupport::ErrorBoxAllocations::countOne();
     return __libc_malloc(size);
 }
 
 ZYX_TEST_HEAP_FUNCTION void *calloc(std::size_t number, std::size_t size) noexcept
 {
-    countOne();
+    TestSupport::ErrorBoxAllocations::countOne();
     return __libc_calloc(number, size);
 }
 
 ZYX_TEST_HEAP_FUNCTION void *realloc(void *memory, std::size_t size) noexcept
 {
-    countOne();
+    TestSupport::ErrorBoxAllocations::countOne();
     return __libc_realloc(memory, size);
 }
 
 ZYX_TEST_HEAP_FUNCTION void *memalign(std::size_t alignment, std::size_t size) noexcept
 {
-    countOne();
+    TestSupport::ErrorBoxAllocations::countOne();
     return __libc_memalign(alignment, size);
 }
 
 ZYX_TEST_HEAP_FUNCTION void *aligned_alloc(std::size_t alignment, std::size_t size) noexcept
 {
-    countOne();
+    TestSupport::ErrorBoxAllocations::countOne();
     return __libc_memalign(alignment, size);
 }
 
 ZYX_TEST_HEAP_FUNCTION int posix_memalign(void **memory, std::size_t alignment, std::size_t size) noexcept
 {
-    countOne();
+    TestSupport::ErrorBoxAllocations::countOne();
     *memory = __libc_memalign(alignment, size);
     return *memory == nullptr ? ENOMEM : 0;
 }
 
 namespace TestSupport {
-
-ErrorBoxAllocations::ErrorBoxAllocations()
-{
-    count = 0;
-    isCounting = true;
-}
-
-ErrorBoxAllocations::~ErrorBoxAllocations()
-{
-    stop();
-}
-
-int ErrorBoxAllocations::stop()
-{
-    isCounting = false;
-    return count;
-}
 
 bool ErrorBoxAllocations::areCounted()
 {

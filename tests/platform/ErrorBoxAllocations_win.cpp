@@ -5,18 +5,9 @@
 #include <cstdlib>
 #include <new>
 
-namespace {
-
-thread_local bool isCounting = false;
-thread_local int count = 0;
-
-} // namespace
-
 void *operator new(std::size_t size)
 {
-    if (isCounting) {
-        ++count;
-    }
+    TestSupport::ErrorBoxAllocations::countOne();
     if (void *memory = std::malloc(size == 0 ? 1 : size)) {
         return memory;
     }
@@ -34,23 +25,6 @@ void operator delete(void *memory, std::size_t /*size*/) noexcept
 }
 
 namespace TestSupport {
-
-ErrorBoxAllocations::ErrorBoxAllocations()
-{
-    count = 0;
-    isCounting = true;
-}
-
-ErrorBoxAllocations::~ErrorBoxAllocations()
-{
-    stop();
-}
-
-int ErrorBoxAllocations::stop()
-{
-    isCounting = false;
-    return count;
-}
 
 bool ErrorBoxAllocations::areCounted()
 {
