@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "frame/VirtualSlot.h"
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 #include "support/TestLog.h"
+#include "support/VirtualSlot.h"
 
 #include "utilsDll/frame/LoggerInterface.h"
 

@@ -221,7 +221,8 @@ class Promise:
         readable = record.type.get_canonical().spelling
         self.instantiations.add(readable)
         for member in specialized_template(record).get_children():
-            if member.kind == CursorKind.CXX_METHOD and member.access_specifier == AccessSpecifier.PUBLIC:
+            if (member.kind == CursorKind.CXX_METHOD and member.access_specifier == AccessSpecifier.PUBLIC
+                    and not member.is_pure_virtual_method()):
                 self.needed_members[f"{readable}::{member.spelling}("] = where(record)
 
 
@@ -294,7 +295,7 @@ def is_accounted_for(promise, entry, readable):
     if thunk and "_Z" + name[thunk.end():] in promise.needed:
         return True
     plain = re.sub(r"^.* (for|to) ", "", readable)
-    if any(plain.startswith(f"{instantiation}::") for instantiation in promise.instantiations):
+    if any(plain == instantiation or plain.startswith(f"{instantiation}::") for instantiation in promise.instantiations):
         return True
     return entry.is_weak and owner(name) not in promise.own_names and bool(FOREIGN.match(owner(name)))
 

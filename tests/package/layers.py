@@ -49,10 +49,11 @@ LIBRARIES_OF_ROOM = {
     "utilsDll/crashReport": LIBRARIES | {"minizip", "zlib"},
 }
 
-# Conditions on the system or the compiler belong into the platform room; this one is about a compiler's own spelling.
+# Conditions on the system or the compiler belong into the platform room; these are about a compiler's own ways.
 SYSTEM_CONDITION = re.compile(r"\b(_WIN32|_WIN64|WIN32|WIN64|Q_OS_\w+|__linux\w*|__unix\w*|__APPLE__|__MINGW\w+|"
                               r"__CYGWIN__|__FreeBSD__|_MSC_VER|__GNUC__|__clang__|Q_CC_\w+)\b")
-ALLOWED_CONDITIONS = {("utilsDll/frame/FunctionName.h", "_MSC_VER"), ("utilsDll/frame/FunctionName.h", "__clang__")}
+ALLOWED_CONDITIONS = {("utilsDll/frame/FunctionName.h", "_MSC_VER"), ("utilsDll/frame/FunctionName.h", "__clang__"),
+                      ("utilsDll/frame/Export.h", "_MSC_VER")}
 
 
 def room_of(path):

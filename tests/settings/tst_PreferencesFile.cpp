@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "settings/AssertionReports.h"
 #include "settings/OnDisk.h"
 #include "settings/SystemPlaces.h"
+#include "support/AssertionReports.h"
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 #include "support/TestLog.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "settings/AssertionReports.h"
 #include "settings/OnDisk.h"
+#include "support/AssertionReports.h"
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 #include "support/TestLog.h"

@@ -15,6 +15,7 @@ namespace {
 
 constexpr char markVariable[] = "ZYX_TEST_FRESH_PROCESS";
 constexpr int watchdogMs = 120'000;
+constexpr int mostStarts = 3; // Wine on a busy machine refuses one now and then
 
 QString currentTest()
 {
@@ -54,7 +55,12 @@ FreshResult runInFreshProcess()
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), {currentTest()});
+    for (int attempt = 0; attempt < mostStarts; ++attempt) {
+        process.start(QCoreApplication::applicationFilePath(), {currentTest()});
+        if (process.waitForStarted(watchdogMs)) {
+            break;
+        }
+    }
     const bool isFinished = process.waitForFinished(watchdogMs);
     if (!isFinished) {
         process.kill();

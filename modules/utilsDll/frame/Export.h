@@ -10,3 +10,16 @@
 #else
 #define UTILSDLL_EXPORT Q_DECL_IMPORT
 #endif
+
+/*!
+    For an explicit instantiation that hosts share with the library: the one marks its declaration in a header,
+    "extern template class UTILSDLL_EXPORT_TEMPLATE T<X>;", the other its definition in a source. Visual C++ wants the
+    export where the instantiation is defined, the other compilers where it is declared.
+*/
+#if defined(_MSC_VER) && defined(UTILSDLL_BUILD)
+#define UTILSDLL_EXPORT_TEMPLATE
+#define UTILSDLL_EXPORT_TEMPLATE_DEFINITION UTILSDLL_EXPORT
+#else
+#define UTILSDLL_EXPORT_TEMPLATE UTILSDLL_EXPORT
+#define UTILSDLL_EXPORT_TEMPLATE_DEFINITION
+#endif

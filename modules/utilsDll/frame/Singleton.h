@@ -12,7 +12,7 @@
     Singleton<CThing> a friend.
 
     A class that the library exports has one object for all modules only if the library alone instantiates the template:
-    its header declares "extern template class UTILSDLL_EXPORT Singleton<CThing>;", its source defines it.
+    its header declares "extern template class UTILSDLL_EXPORT_TEMPLATE Singleton<CThing>;", its source defines it.
 */
 template <typename T>
 class Singleton
@@ -20,13 +20,17 @@ class Singleton
     Q_DISABLE_COPY_MOVE(Singleton)
 
 public:
-    static T &instance()
-    {
-        static T object;
-        return object;
-    }
+    static T &instance();
 
 protected:
     Singleton() = default;
     ~Singleton() = default;
 };
+
+// Outside of the class, so that it is not inline: compilers for Windows export no inline function of an instantiation.
+template <typename T>
+T &Singleton<T>::instance()
+{
+    static T object;
+    return object;
+}

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "settings/AssertionReports.h"
+#include "support/AssertionReports.h"
 
 namespace TestSupport {
 

@@ -10,8 +10,8 @@ namespace TestSupport {
 
 /*!
     Which virtual operation of its class \a operation is, the first being 1, in a class whose first one is the
-    destructor. Nothing where pointers to members do not tell: they do in the Itanium C++ ABI, that is everywhere but
-    with Visual C++.
+    destructor; in other classes the first is 0. Nothing where pointers to members do not tell: they do in the Itanium
+    C++ ABI, that is everywhere but with Visual C++.
 */
 template <typename Operation>
 std::optional<int> virtualSlot(Operation operation)
