@@ -2,51 +2,165 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include "PhotoLoader.h"
 #include "PhotoView.h"
+#include "Report.h"
+#include "SettingsPanel.h"
 
+#include "utilsDll/actions/ActionManager.h"
+#include "utilsDll/dialogs/SettingsPushButton.h"
+#include "utilsDll/eventLoop/OperationCompletionWaiter.h"
+#include "utilsDll/frame/LoggerInterface.h"
 #include "utilsDll/frame/SharedConstants.h"
+#include "utilsDll/settings/Settings.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QScopeGuard>
 #include <QtGui/QAction>
 #include <QtGui/QIcon>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>
 
+using namespace ZYX_zglv6;
+
 namespace {
 
 constexpr QSize firstSize(1100, 780);
+constexpr int patienceMs = 30'000; // for a photograph on a slow drive
+constexpr QLatin1StringView panelKey("lightbox/panel");
+
+CActionManager &gate()
+{
+    return Singleton<CActionManager>::instance();
+}
 
 } // namespace
 
 CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
     : QMainWindow(parent)
     , m_photos(photos)
-    , m_view(new CPhotoView(this))
+    , m_view(new CPhotoView)
+    , m_panel(new CSettingsPanel)
+    , m_loadTimeLimit(patienceMs)
 {
+    m_pool.setMaxThreadCount(1);
     setWindowTitle(tr("Lightbox"));
     setWindowIcon(QIcon(u":/icons/app_icon/logo_64.png"_qs));
-    setCentralWidget(m_view);
+
+    auto *table = new QWidget;
+    table->setStyleSheet(u"background: #2d2d2d;"_qs);
+    auto *layout = new QHBoxLayout(table);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_panel);
+    setCentralWidget(table);
     statusBar(); // made before the window is shown, so that it is laid out with it
     resize(firstSize);
 
+    addPhotographMenu();
+    addViewMenu();
+    registerPanel();
+}
+
+CMainWindow::~CMainWindow()
+{
+    gate().clear(); // this window receives all its commands
+}
+
+void CMainWindow::addPhotographMenu()
+{
     QMenu *menu = menuBar()->addMenu(tr("&Photograph"));
-    menu->addAction(addCommand(tr("&Open..."), QKeySequence::Open, &CMainWindow::open));
-    menu->addAction(addCommand(tr("&Next"), Qt::Key_Right, &CMainWindow::showNext));
-    menu->addAction(addCommand(tr("&Previous"), Qt::Key_Left, &CMainWindow::showPrevious));
+    addCommand(menu, tr("&Open..."), QKeySequence::Open, "open");
+    m_next = addCommand(menu, tr("&Next"), Qt::Key_Right, "showNext");
+    addCommand(menu, tr("&Previous"), Qt::Key_Left, "showPrevious");
+    // Leaving is possible at any time.
     QAction *quit = menu->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
-QAction *CMainWindow::addCommand(const QString &text, const QKeySequence &shortcut, void (CMainWindow::*slot)())
+void CMainWindow::addViewMenu()
 {
-    auto *action = new QAction(text, this);
+    QMenu *menu = menuBar()->addMenu(tr("&View"));
+    addSwitch(menu, tr("&Fill the window"), Qt::Key_F, false, "setFilling");
+    addSwitch(menu, tr("&Settings"), Qt::Key_S, true, "setPanelShown");
+}
+
+void CMainWindow::registerPanel()
+{
+    gate().addSettingsPushButtonAction(m_panel->blackAndWhite(), this, "setBlackAndWhite");
+    gate().addSettingsPushButtonAction(m_panel->mirrored(), this, "setMirrored");
+    gate().addSettingsPushButtonAction(m_panel->framed(), this, "setFramed");
+}
+
+QAction *CMainWindow::addCommand(QMenu *menu, const QString &text, const QKeySequence &shortcut, const char *slot)
+{
+    QAction *action = menu->addAction(text); // in its menu before it is registered, for the sake of its shortcut
     action->setShortcut(shortcut);
-    connect(action, &QAction::triggered, this, slot);
+    gate().addAction(action, this, slot);
     return action;
+}
+
+void CMainWindow::addSwitch(QMenu *menu, const QString &text, const QKeySequence &shortcut, bool isOn, const char *slot)
+{
+    QAction *action = menu->addAction(text);
+    action->setShortcut(shortcut);
+    action->setCheckable(true);
+    action->setChecked(isOn);
+    gate().addBooleanAction(action, this, slot);
+}
+
+void CMainWindow::restorePanel()
+{
+    const QByteArray blob = CSettings().value(panelKey).toByteArray();
+    m_panel->deserialize(blob, false, QString());
+    m_view->setBlackAndWhite(m_panel->blackAndWhite()->isButtonChecked());
+    m_view->setMirrored(m_panel->mirrored()->isButtonChecked());
+    m_view->setFramed(m_panel->framed()->isButtonChecked());
+    printLine(8, QLatin1StringView("panel"),
+              blob.isEmpty()
+                  ? u"no state stored yet"_qs
+                  : u"restored from %1 bytes; frame %2"_qs.arg(
+                      QString::number(blob.size()), m_panel->framed()->isButtonChecked() ? u"on"_qs : u"off"_qs));
+}
+
+void CMainWindow::storePanel()
+{
+    CSettings().setValue(panelKey, m_panel->serialize());
+    Q_EMIT panelChanged(); // keep last
+}
+
+void CMainWindow::setLoadTimeLimit(int milliseconds)
+{
+    m_loadTimeLimit = milliseconds;
+}
+
+QThreadPool &CMainWindow::pool()
+{
+    return m_pool;
+}
+
+CSettingsPanel &CMainWindow::panel() const
+{
+    return *m_panel;
+}
+
+QAction *CMainWindow::nextAction() const
+{
+    return m_next;
+}
+
+QString CMainWindow::currentName() const
+{
+    return QFileInfo(m_photos.current()).fileName();
+}
+
+QString CMainWindow::statusText() const
+{
+    return statusBar()->currentMessage();
 }
 
 void CMainWindow::showNext()
@@ -63,32 +177,105 @@ void CMainWindow::showPrevious()
 
 void CMainWindow::open()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open a photograph"), QFileInfo(m_photos.current()).absolutePath(),
-        tr("Photographs (%1)").arg(ZYX_zglv6::imageFilter) + u";;" + tr("All files (*)"));
+    gate().blockActions(); // no remembered command shall come while the dialog is open
+    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    const QString path
+        = QFileDialog::getOpenFileName(this, tr("Open a photograph"), QFileInfo(m_photos.current()).absolutePath(),
+                                       tr("Photographs (%1)").arg(imageFilter) + u";;" + tr("All files (*)"));
     if (!path.isEmpty()) {
         m_photos = CPhotoList(path);
         showCurrent();
     }
 }
 
+void CMainWindow::setFilling(bool isFilling)
+{
+    m_view->setFilling(isFilling);
+}
+
+void CMainWindow::setPanelShown(bool isShown)
+{
+    m_panel->setVisible(isShown);
+}
+
+void CMainWindow::setBlackAndWhite(bool isBlackAndWhite)
+{
+    m_view->setBlackAndWhite(isBlackAndWhite);
+    storePanel();
+}
+
+void CMainWindow::setMirrored(bool isMirrored)
+{
+    m_view->setMirrored(isMirrored);
+    storePanel();
+}
+
+void CMainWindow::setFramed(bool isFramed)
+{
+    m_view->setFramed(isFramed);
+    storePanel();
+}
+
 void CMainWindow::showCurrent()
 {
     if (m_photos.count() == 0) {
         statusBar()->showMessage(tr("No photographs in this folder"));
-    } else if (m_view->showPhoto(m_photos.current())) {
-        statusBar()->showMessage(describeCurrent());
     } else {
-        statusBar()->showMessage(tr("%1 can't be shown").arg(QFileInfo(m_photos.current()).fileName()));
-        m_lastResort.ShowUnsupportedImageDialog();
+        loadCurrent();
     }
     Q_EMIT currentShown(); // keep last: a slot may close this window
 }
 
-QString CMainWindow::describeCurrent() const
+/*! The busy phase of this host. A command that comes meanwhile is carried out a second after it. */
+void CMainWindow::loadCurrent()
 {
-    const QSize size = m_view->photoSize();
+    gate().blockActions();
+    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    statusBar()->showMessage(tr("Loading %1").arg(currentName()));
+
+    CPhotoLoader &loader = addLoader();
+    // Not blocked: the user's commands shall reach the gate and be remembered.
+    COperationCompletionWaiter waiter(&loader, SIGNAL(finished()), false, false, nullptr);
+    m_pool.start(&loader);
+    Q_EMIT loadingBegun();
+    waiter.startWaiting(m_loadTimeLimit);
+
+    if (waiter.isOperationCompleted() && waiter.isOperationSuccess()) {
+        m_pool.waitForDone(); // finished() comes from within its run
+        showLoaded(loader);
+        return;
+    }
+    // Too late, or the program is about to leave and has ended all loops.
+    loader.stop();
+    ZYX_LOG('W', m_photos.current() + u" was given up");
+    statusBar()->showMessage(tr("%1 takes too long").arg(currentName()));
+}
+
+CPhotoLoader &CMainWindow::addLoader()
+{
+    if (m_pool.waitForDone(0)) {
+        m_loaders.clear();
+    }
+    m_loaders.push_back(std::make_unique<CPhotoLoader>(m_photos.current()));
+    return *m_loaders.back();
+}
+
+void CMainWindow::showLoaded(const CPhotoLoader &loader)
+{
+    m_view->showPhoto(loader.image());
+    if (!loader.image().isNull()) {
+        statusBar()->showMessage(describeCurrent(loader));
+        return;
+    }
+    ZYX_LOG('E', m_photos.current() + u": " + loader.error());
+    statusBar()->showMessage(tr("%1 can't be shown").arg(currentName()));
+    m_lastResort.ShowUnsupportedImageDialog();
+}
+
+QString CMainWindow::describeCurrent(const CPhotoLoader &loader) const
+{
+    const QSize size = loader.originalSize();
     return tr("%1 of %2: %3, %4 x %5")
-        .arg(QString::number(m_photos.position() + 1), QString::number(m_photos.count()),
-             QFileInfo(m_photos.current()).fileName(), QString::number(size.width()), QString::number(size.height()));
+        .arg(QString::number(m_photos.position() + 1), QString::number(m_photos.count()), currentName(),
+             QString::number(size.width()), QString::number(size.height()));
 }

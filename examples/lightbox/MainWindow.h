@@ -6,37 +6,84 @@
 
 #include "utilsDll/frame/ErrStrings.h"
 
+#include <QtCore/QThreadPool>
 #include <QtWidgets/QMainWindow>
 
-class CPhotoView;
-class QAction;
+#include <memory>
+#include <vector>
 
-/*! The window: one photograph, the way to the next, and what there is to know of it in the status bar. */
+class CPhotoLoader;
+class CPhotoView;
+class CSettingsPanel;
+class QAction;
+class QMenu;
+
+/*!
+    The window: one photograph, the way to the next, a panel of settings, and what there is to know of it in the status
+    bar. Every command but leaving goes through the gate for commands, which is closed while a photograph is loaded.
+*/
 class CMainWindow final : public QMainWindow
 {
     Q_OBJECT
 
 public:
     explicit CMainWindow(const QString &photos, QWidget *parent = nullptr);
+    ~CMainWindow() override;
+
+    /*! Brings the panel to where the last run left it. Prints a line. */
+    void restorePanel();
+
+    /*! After how many milliseconds a loading is given up; with a negative number never. */
+    void setLoadTimeLimit(int milliseconds);
+
+    /*! The thread that loads photographs, one after the other. */
+    QThreadPool &pool();
+    CSettingsPanel &panel() const;
+    QAction *nextAction() const;
+    QString currentName() const;
+    QString statusText() const;
 
 Q_SIGNALS:
+    /*! A photograph is being loaded: the gate is closed now. */
+    void loadingBegun();
     /*! The current photograph is on the screen, or the user knows that it can't be shown. */
     void currentShown();
+    /*! A row of the panel has been carried out. */
+    void panelChanged();
 
 public Q_SLOTS:
+    // The commands, called by their names.
     void showNext();
     void showPrevious();
     void open();
+    void setFilling(bool isFilling);
+    void setPanelShown(bool isShown);
+    void setBlackAndWhite(bool isBlackAndWhite);
+    void setMirrored(bool isMirrored);
+    void setFramed(bool isFramed);
 
-    /*! Shows the current photograph of the list; an unreadable one is reported to the user. */
+    /*! Loads and shows the current photograph of the list; an unreadable one is reported to the user. */
     void showCurrent();
 
 private:
-    QAction *addCommand(const QString &text, const QKeySequence &shortcut, void (CMainWindow::*slot)());
+    void addPhotographMenu();
+    void addViewMenu();
+    void registerPanel();
+    QAction *addCommand(QMenu *menu, const QString &text, const QKeySequence &shortcut, const char *slot);
+    void addSwitch(QMenu *menu, const QString &text, const QKeySequence &shortcut, bool isOn, const char *slot);
 
-    QString describeCurrent() const;
+    void loadCurrent();
+    CPhotoLoader &addLoader();
+    void showLoaded(const CPhotoLoader &loader);
+    QString describeCurrent(const CPhotoLoader &loader) const;
+    void storePanel();
 
     CPhotoList m_photos;
     CPhotoView *m_view;
+    CSettingsPanel *m_panel;
+    QAction *m_next = nullptr;
+    int m_loadTimeLimit;
+    std::vector<std::unique_ptr<CPhotoLoader>> m_loaders; // of this photograph, and of those given up that still run
+    QThreadPool m_pool; // waits for its thread before the loaders go
     ZYX_zglv6::CErrStrings m_lastResort; // made in advance: its messages need no memory when they are shown
 };

@@ -13,7 +13,8 @@ struct Options
     QString snapshot; // PNG file to write of the window, empty for none
     bool temporarySettings = false;
     bool consoleLog = false;
-    bool leave = false; // as soon as the first photograph is shown
+    bool tour = false; // through the gate for commands
+    bool leave = false; // as soon as the first photograph is shown, or the tour is over
 };
 
 /*! Parses the running application's arguments; with wrong ones, or for "--help", the process ends here. */

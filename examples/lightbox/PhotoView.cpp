@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "PhotoView.h"
 
-#include "utilsDll/frame/LoggerInterface.h"
-
-#include <QtGui/QImageReader>
 #include <QtGui/QPainter>
+
+#include <utility>
 
 namespace {
 
 constexpr QRgb ground = qRgb(0x23, 0x23, 0x23);
 constexpr int border = 24;
+constexpr int frameWidth = 12;
 
 } // namespace
 
@@ -20,34 +20,60 @@ CPhotoView::CPhotoView(QWidget *parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-bool CPhotoView::showPhoto(const QString &path)
+void CPhotoView::showPhoto(const QImage &photo)
 {
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QImage image = reader.read();
-    if (image.isNull()) {
-        ZYX_LOG('E', path + u": " + reader.errorString());
-    }
-    m_photo = QPixmap::fromImage(image);
-    update();
-    return !m_photo.isNull();
+    m_photo = photo;
+    develop();
 }
 
-QSize CPhotoView::photoSize() const
+void CPhotoView::setBlackAndWhite(bool isBlackAndWhite)
 {
-    return m_photo.size();
+    m_isBlackAndWhite = isBlackAndWhite;
+    develop();
+}
+
+void CPhotoView::setMirrored(bool isMirrored)
+{
+    m_isMirrored = isMirrored;
+    develop();
+}
+
+void CPhotoView::setFramed(bool isFramed)
+{
+    m_isFramed = isFramed;
+    update();
+}
+
+void CPhotoView::setFilling(bool isFilling)
+{
+    m_isFilling = isFilling;
+    update();
+}
+
+void CPhotoView::develop()
+{
+    QImage print = m_isBlackAndWhite ? m_photo.convertToFormat(QImage::Format_Grayscale8) : m_photo;
+    if (m_isMirrored) {
+        print = std::move(print).mirrored(true, false);
+    }
+    m_print = QPixmap::fromImage(print);
+    update();
 }
 
 void CPhotoView::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(ground));
-    if (m_photo.isNull()) {
+    if (m_print.isNull()) {
         return;
     }
-    const QRect frame = rect().adjusted(border, border, -border, -border);
-    QRect place(QPoint(), m_photo.size().scaled(frame.size(), Qt::KeepAspectRatio));
-    place.moveCenter(frame.center());
+    const QRect area = m_isFilling ? rect() : rect().adjusted(border, border, -border, -border);
+    const Qt::AspectRatioMode mode = m_isFilling ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
+    QRect place(QPoint(), m_print.size().scaled(area.size(), mode));
+    place.moveCenter(area.center());
+    if (m_isFramed) {
+        painter.fillRect(place.adjusted(-frameWidth, -frameWidth, frameWidth, frameWidth), Qt::white);
+    }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(place, m_photo);
+    painter.drawPixmap(place, m_print);
 }

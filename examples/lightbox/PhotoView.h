@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGui/QImage>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
-/*! Shows one photograph as large as it fits, on a dark ground. */
+/*! Shows one photograph on a dark ground, as large as it fits. */
 class CPhotoView final : public QWidget
 {
     Q_OBJECT
@@ -13,15 +14,25 @@ class CPhotoView final : public QWidget
 public:
     explicit CPhotoView(QWidget *parent = nullptr);
 
-    /*! Shows the file at \a path. False, with nothing shown, if it is no image that can be read. */
-    bool showPhoto(const QString &path);
+    /*! Shows \a photo; with a null one only the ground. */
+    void showPhoto(const QImage &photo);
 
-    /*! Size of the photograph in pixels; empty while none is shown. */
-    QSize photoSize() const;
+    void setBlackAndWhite(bool isBlackAndWhite);
+    void setMirrored(bool isMirrored);
+    void setFramed(bool isFramed);
+    /*! Fills the view to its edges, so that a part of the photograph may lie outside. */
+    void setFilling(bool isFilling);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QPixmap m_photo;
+    void develop();
+
+    QImage m_photo;
+    QPixmap m_print; // as it is shown
+    bool m_isBlackAndWhite = false;
+    bool m_isMirrored = false;
+    bool m_isFramed = false;
+    bool m_isFilling = false;
 };

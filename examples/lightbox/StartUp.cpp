@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "StartUp.h"
 
+#include "Report.h"
+
 #include "loggerSupport/LoggerWrapper.h"
 #include "storageLocation/storageLocation.h"
 #include "utilsDll/frame/Application.h"
@@ -13,7 +15,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
-#include <QtCore/QTextStream>
 
 #include <utility>
 
@@ -22,11 +23,6 @@ using namespace ZYX_zglv6;
 namespace {
 
 constexpr QLatin1StringView logName("lightbox");
-
-void printLine(int step, QLatin1StringView subject, const QString &answer)
-{
-    QTextStream(stdout) << step << ' ' << subject.toString().leftJustified(12) << answer << Qt::endl;
-}
 
 /*! The preferences file that an installer would have left; an existing one is the user's and stays. */
 bool writePreferencesOnce(const QString &path, const QString &workFolder)

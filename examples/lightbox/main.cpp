@@ -4,7 +4,9 @@
 #include "MainWindow.h"
 #include "Options.h"
 #include "OwnStore.h"
+#include "Report.h"
 #include "StartUp.h"
+#include "Tour.h"
 
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
@@ -42,13 +44,17 @@ int main(int argc, char *argv[])
     window.show();
     startUp.reportMainWindow();
     startUp.noteLaunch();
+    window.restorePanel();
 
+    CTour tour(window);
+    QObject::connect(&tour, &CTour::finished, &window, [&] { finishStart(window, options); });
     // Queued: the window has been painted by then. Once: only the start is meant.
     QObject::connect(
-        &window, &CMainWindow::currentShown, &window, [&] { finishStart(window, options); },
+        &window, &CMainWindow::currentShown, &window,
+        [&] { options.tour ? tour.start() : finishStart(window, options); },
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    QTextStream(stdout) << "8 left" << Qt::endl;
+    printLine(13, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }
