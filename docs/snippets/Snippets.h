@@ -4,10 +4,20 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDir>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <functional>
+
+class QAction;
+class QAtomicInt;
+class QObject;
+class QWidget;
+
+namespace ZYX_zglv6 {
+class CSettingsPushButton;
+} // namespace ZYX_zglv6
 
 /*! The examples of the pages in docs/. The pages show them word for word, and tests/docs runs them. */
 namespace Snippets {
@@ -50,6 +60,34 @@ bool isStorageKnown();
 
 void startLog(const QString &name);
 void keepOnlyErrors();
+
+// eventLoop.cpp
+
+void updateSoon(QObject *preview);
+void blink(QObject *lamp, int period);
+void stopBlinking(QObject *lamp);
+bool develop(int seconds, int limitMs);
+void waitForExposure(const QAtomicInt &framesLeft);
+
+// interfaces.cpp
+
+/*! What a slider shows that took its state from the blob of one with \a strength. */
+int strengthAfterRestart(int strength);
+
+// dialogs.cpp
+
+struct Caption
+{
+    QString id;
+    QString text;
+};
+
+void addRows(QWidget *panel, const QList<Caption> &captions);
+
+// actions.cpp
+
+void registerCommands(QAction *save, QAction *grain, ZYX_zglv6::CSettingsPushButton *border, QObject *document);
+void runBusy(const std::function<void()> &work);
 
 // platform.cpp
 

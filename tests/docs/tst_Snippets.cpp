@@ -7,6 +7,9 @@
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 #include "support/TestLog.h"
+#include "utilsDll/actions/ActionManager.h"
+#include "utilsDll/dialogs/SettingsPushButton.h"
+#include "utilsDll/eventLoop/DelayedCall.h"
 #include "utilsDll/frame/LoggerInterface.h"
 #include "utilsDll/frame/ProcessInfo.h"
 #include "utilsDll/frame/SharedConstants.h"
@@ -16,9 +19,13 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 
 #include <array>
+#include <limits>
 #include <memory>
 #include <new>
 
@@ -38,6 +45,41 @@ QString contentOf(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
+
+/*! What the examples call by name. */
+class Desk final : public QObject
+{
+    Q_OBJECT
+
+public:
+    QStringList calls;
+
+public Q_SLOTS:
+    void updateNow()
+    {
+        calls.append(u"updateNow"_qs);
+    }
+
+    void flash(int msec)
+    {
+        calls.append(u"flash %1"_qs.arg(msec));
+    }
+
+    void save()
+    {
+        calls.append(u"save"_qs);
+    }
+
+    void setGrain(bool isOn)
+    {
+        calls.append(isOn ? u"grain"_qs : u"no grain"_qs);
+    }
+
+    void setBorder(bool isOn)
+    {
+        calls.append(isOn ? u"border"_qs : u"no border"_qs);
+    }
+};
 
 } // namespace
 
@@ -74,6 +116,15 @@ private Q_SLOTS:
     void startLog_writesTheRecordOfThePage();
     void startLog_honoursTheSwitch();
     void keepOnlyErrors_suppressesTheRest();
+
+    void updateSoon_updatesOnceForManyCalls();
+    void stopBlinking_endsTheRepetition();
+    void develop_tellsOfSuccessAndOfTooLittleTime();
+    void waitForExposure_endsWithTheLastFrame();
+    void strengthAfterRestart_isTheStoredOne();
+    void addRows_makesRowsThatKeepTheirState();
+    void registerCommands_carriesThemOut();
+    void runBusy_putsTheLastCommandOff();
 
     void versionText_isFoundInTheFile();
 
@@ -310,6 +361,100 @@ void tst_Snippets::keepOnlyErrors_suppressesTheRest()
     QVERIFY2(log.contains(u"The lamp is broken"), qPrintable(log));
 }
 
+void tst_Snippets::updateSoon_updatesOnceForManyCalls()
+{
+    Desk preview;
+    for (int i = 0; i < 10; ++i) {
+        Snippets::updateSoon(&preview);
+    }
+    QCOMPARE(preview.calls, QStringList());
+    QTRY_COMPARE(preview.calls, QStringList(u"updateNow"_qs));
+    QVERIFY(!Singleton<CDelayedCall>::instance().isActive(&preview, "updateNow"));
+}
+
+void tst_Snippets::stopBlinking_endsTheRepetition()
+{
+    Desk lamp;
+    Snippets::blink(&lamp, 10);
+    QTRY_COMPARE_GE(lamp.calls.size(), 3);
+    Snippets::stopBlinking(&lamp);
+    QCOMPARE(lamp.calls.count(u"flash 50"_qs), lamp.calls.size());
+    QVERIFY(!Singleton<CDelayedCall>::instance().isActive(&lamp, "flash"));
+}
+
+void tst_Snippets::develop_tellsOfSuccessAndOfTooLittleTime()
+{
+    QVERIFY(Snippets::develop(5, -1));
+    QVERIFY(!Snippets::develop(std::numeric_limits<int>::max(), 0));
+}
+
+void tst_Snippets::waitForExposure_endsWithTheLastFrame()
+{
+    QAtomicInt framesLeft(3);
+    QTimer shutter;
+    connect(&shutter, &QTimer::timeout, this, [&framesLeft] { framesLeft.deref(); });
+    shutter.start(1);
+    Snippets::waitForExposure(framesLeft);
+    QCOMPARE(framesLeft.loadRelaxed(), 0);
+}
+
+void tst_Snippets::strengthAfterRestart_isTheStoredOne()
+{
+    QCOMPARE(Snippets::strengthAfterRestart(42), 42);
+}
+
+void tst_Snippets::addRows_makesRowsThatKeepTheirState()
+{
+    QWidget panel;
+    Snippets::addRows(&panel, {{u"film.grain"_qs, u"Grain"_qs}, {u"film.border"_qs, u"Border"_qs}});
+    const auto rows = panel.findChildren<CSettingsPushButton *>();
+    QCOMPARE(rows.size(), 2);
+    QCOMPARE(rows.front()->labelText(), u"Grain"_qs);
+    rows.front()->clickButton();
+    rows.back()->deserialize(rows.front()->serialize(), false, QString());
+    QVERIFY(!rows.back()->isButtonChecked()); // another identifier
+    const QByteArray pressed = rows.front()->serialize();
+    rows.front()->clickButton();
+    rows.front()->deserialize(pressed, false, QString());
+    QVERIFY(rows.front()->isButtonChecked());
+}
+
+void tst_Snippets::registerCommands_carriesThemOut()
+{
+    QAction save;
+    QAction grain;
+    grain.setCheckable(true);
+    CSettingsPushButton border;
+    border.setButtonCheckable(true);
+    Desk document;
+    Snippets::registerCommands(&save, &grain, &border, &document);
+    save.trigger();
+    grain.trigger();
+    border.clickButton();
+    QCOMPARE(document.calls, (QStringList{u"save"_qs, u"grain"_qs, u"border"_qs}));
+    Singleton<CActionManager>::instance().clear();
+}
+
+void tst_Snippets::runBusy_putsTheLastCommandOff()
+{
+    QAction save;
+    QAction grain;
+    grain.setCheckable(true);
+    CSettingsPushButton border;
+    border.setButtonCheckable(true);
+    Desk document;
+    Snippets::registerCommands(&save, &grain, &border, &document);
+    Snippets::runBusy([&] {
+        save.trigger();
+        grain.trigger();
+        QVERIFY(!grain.isChecked());
+    });
+    QCOMPARE(document.calls, QStringList());
+    QTRY_COMPARE(document.calls, QStringList(u"grain"_qs));
+    QVERIFY(grain.isChecked());
+    Singleton<CActionManager>::instance().clear();
+}
+
 void tst_Snippets::versionText_isFoundInTheFile()
 {
     QCOMPARE(Snippets::versionText(QCoreApplication::applicationFilePath()), u"6.4.0.314"_qs);
@@ -319,7 +464,7 @@ void tst_Snippets::versionText_isFoundInTheFile()
 int main(int argc, char *argv[])
 {
     // In a process of its own a function may make the application object that it is about.
-    const auto application = TestSupport::isFreshProcess() ? nullptr : std::make_unique<QCoreApplication>(argc, argv);
+    const auto application = TestSupport::isFreshProcess() ? nullptr : std::make_unique<QApplication>(argc, argv);
     tst_Snippets test;
     return QTest::qExec(&test, argc, argv);
 }
