@@ -31,15 +31,28 @@ int readTypeId(QDataStream &stream)
     return QMetaType::fromName(name).id();
 }
 
-QVariantList readList(QDataStream &stream, int depth)
+/*! Grows with what is there: the count may lie. */
+template <typename Element, typename Read>
+QVariant readList(QDataStream &stream, const Read &readElement)
 {
     quint32 count = 0;
     stream >> count;
-    QVariantList list; // grows with what is there: the count may lie
+    QList<Element> list;
     for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
-        list.append(readValue(stream, depth));
+        list.append(readElement());
     }
-    return list;
+    return QVariant::fromValue(list);
+}
+
+/*! A QStringList or QByteArrayList. */
+template <typename Text>
+QVariant readTexts(QDataStream &stream)
+{
+    return readList<Text>(stream, [&stream] {
+        Text text;
+        stream >> text;
+        return text;
+    });
 }
 
 template <typename Map>
@@ -56,21 +69,6 @@ Map readMap(QDataStream &stream, int depth)
         }
     }
     return map;
-}
-
-/*! A QStringList or QByteArrayList. */
-template <typename Element>
-QVariant readTexts(QDataStream &stream)
-{
-    quint32 count = 0;
-    stream >> count;
-    QList<Element> texts;
-    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
-        Element text;
-        stream >> text;
-        texts.append(text);
-    }
-    return QVariant::fromValue(texts);
 }
 
 /*! Types whose readers do with any bytes; some of Qt's own trust what they read, or go as deep as it leads them. */
@@ -148,7 +146,7 @@ QVariant readValue(QDataStream &stream, int depth)
         return readTexts<QByteArray>(stream);
     }
     if (depth < deepestNesting && typeId == QMetaType::QVariantList) {
-        return readList(stream, depth + 1);
+        return readList<QVariant>(stream, [&] { return readValue(stream, depth + 1); });
     }
     if (depth < deepestNesting && typeId == QMetaType::QVariantMap) {
         return readMap<QVariantMap>(stream, depth + 1);
