@@ -15,8 +15,10 @@ build_packages=(
 test_packages=(
     clang clang-format-14 libclang-rt-14-dev python3 python3-clang-14 binutils
     xvfb xauth xdotool x11-utils zenity
+    libxml2-utils openssl python3-spyne python3-zeep python3-suds gsoap libgsoap-dev libsoap-lite-perl php-cli php-soap
 )
-bench_packages=(libbenchmark-dev libspdlog-dev)
+run_packages=(python3-spyne)
+bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev)
 check_packages=(clang-format-14 clang-tidy-14 shellcheck)
 windows_packages=(
     xz-utils g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine wine64 xvfb xauth fonts-dejavu-core
