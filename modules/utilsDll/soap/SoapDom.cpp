@@ -26,15 +26,18 @@ bool hasMuchToEscape(const QString &text)
     return text.size() > pieceLength && std::count_if(text.begin(), text.end(), isMarkup) > pieceLength / 4;
 }
 
-/*! A ">" is escaped only behind "]]": the three stay in one piece. */
+/*! Not by QDomText::splitText(), which leaks. A ">" is escaped only behind "]]": the three stay in one piece. */
 void splitText(QDomText text)
 {
     const QString content = text.nodeValue();
-    for (qsizetype i = (content.size() - 3) / pieceLength * pieceLength; i > 0; i -= pieceLength) {
+    qsizetype end = content.size();
+    for (qsizetype i = (end - 3) / pieceLength * pieceLength; i > 0; i -= pieceLength) {
         const bool isBeforeLast = content.at(i) == u']' && content.at(i + 1) == u'>';
-        const int ofTriple = content.at(i) == u'>' ? 1 : (isBeforeLast ? 2 : 0);
-        text.splitText(int(i) + ofTriple);
+        const qsizetype cut = i + (content.at(i) == u'>' ? 1 : (isBeforeLast ? 2 : 0));
+        text.parentNode().insertAfter(text.ownerDocument().createTextNode(content.mid(cut, end - cut)), text);
+        end = cut;
     }
+    text.setNodeValue(content.left(end));
 }
 
 } // namespace
