@@ -7,7 +7,7 @@ import re
 import sys
 from pathlib import Path
 
-SUFFIXES = {".cpp", ".h", ".cmake", ".py", ".sh", ".qrc"}
+SUFFIXES = {".cpp", ".h", ".cmake", ".py", ".pl", ".php", ".sh", ".qrc", ".wsdl"}
 NAMES = {"CMakeLists.txt", "run", "test"}
 OTHER_FOLDERS = {".git", ".cache", "build", "__pycache__"}
 LINES_TO_READ = 8
