@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 
 #include "PhotoLoader.h"
+#include "PhotoService.h"
 #include "PhotoView.h"
 #include "Report.h"
 #include "SettingsPanel.h"
@@ -20,6 +21,7 @@
 #include <QtGui/QIcon>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QInputDialog>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>
@@ -76,6 +78,7 @@ void CMainWindow::addPhotographMenu()
     addCommand(menu, tr("&Open..."), QKeySequence::Open, "open");
     m_next = addCommand(menu, tr("&Next"), Qt::Key_Right, "showNext");
     addCommand(menu, tr("&Previous"), Qt::Key_Left, "showPrevious");
+    addCommand(menu, tr("&Ask the service"), Qt::Key_D, "askService");
     // Leaving is possible at any time.
     QAction *quit = menu->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -138,6 +141,11 @@ void CMainWindow::setLoadTimeLimit(int milliseconds)
     m_loadTimeLimit = milliseconds;
 }
 
+void CMainWindow::setService(const QUrl &address)
+{
+    m_service = address;
+}
+
 QThreadPool &CMainWindow::pool()
 {
     return m_pool;
@@ -185,6 +193,21 @@ void CMainWindow::open()
     if (!path.isEmpty()) {
         m_photos = CPhotoList(path);
         showCurrent();
+    }
+}
+
+/*! Asks for the address if none is known. Busy until there is an answer, as with a loading. */
+void CMainWindow::askService()
+{
+    gate().blockActions();
+    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    if (m_service.host().isEmpty()) {
+        m_service
+            = QUrl::fromUserInput(QInputDialog::getText(this, tr("Ask the service"), tr("Address of the service:")));
+    }
+    if (!m_service.host().isEmpty()) {
+        statusBar()->showMessage(tr("Asking %1").arg(m_service.toDisplayString()));
+        statusBar()->showMessage(CPhotoService(m_service).describe(currentName(), m_currentSize));
     }
 }
 
@@ -263,6 +286,7 @@ CPhotoLoader &CMainWindow::addLoader()
 void CMainWindow::showLoaded(const CPhotoLoader &loader)
 {
     m_view->showPhoto(loader.image());
+    m_currentSize = loader.originalSize();
     if (!loader.image().isNull()) {
         statusBar()->showMessage(describeCurrent(loader));
         return;

@@ -6,7 +6,9 @@
 
 #include "utilsDll/frame/ErrStrings.h"
 
+#include <QtCore/QSize>
 #include <QtCore/QThreadPool>
+#include <QtCore/QUrl>
 #include <QtWidgets/QMainWindow>
 
 #include <memory>
@@ -36,6 +38,9 @@ public:
     /*! After how many milliseconds a loading is given up; with a negative number never. */
     void setLoadTimeLimit(int milliseconds);
 
+    /*! The service that askService() asks. */
+    void setService(const QUrl &address);
+
     /*! The thread that loads photographs, one after the other. */
     QThreadPool &pool();
     CSettingsPanel &panel() const;
@@ -56,6 +61,7 @@ public Q_SLOTS:
     void showNext();
     void showPrevious();
     void open();
+    void askService();
     void setFilling(bool isFilling);
     void setPanelShown(bool isShown);
     void setBlackAndWhite(bool isBlackAndWhite);
@@ -82,6 +88,8 @@ private:
     CPhotoView *m_view;
     CSettingsPanel *m_panel;
     QAction *m_next = nullptr;
+    QSize m_currentSize; // of the original
+    QUrl m_service;
     int m_loadTimeLimit;
     std::vector<std::unique_ptr<CPhotoLoader>> m_loaders; // of this photograph, and of those given up that still run
     QThreadPool m_pool; // waits for its thread before the loaders go

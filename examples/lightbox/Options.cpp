@@ -18,6 +18,7 @@ Options parseOptions()
     const QCommandLineOption data(u"data"_qs, u"Folder for everything that this host keeps."_qs, u"folder"_qs,
                                   QStringLiteral(LIGHTBOX_WORK_FOLDER));
     const QCommandLineOption snapshot(u"snapshot"_qs, u"Write a picture of the window."_qs, u"file.png"_qs);
+    const QCommandLineOption service(u"service"_qs, u"Address of a service that describes photographs."_qs, u"url"_qs);
     const QCommandLineOption tour(u"tour"_qs, u"Play a user, and print what comes of each command."_qs);
     const QCommandLineOption leave(u"leave"_qs, u"Leave as soon as the first photograph, or the tour, is shown."_qs);
 
@@ -25,7 +26,7 @@ Options parseOptions()
     parser.setApplicationDescription(u"Shows photographs, and how a host comes up on UtilsDllzglv6."_qs);
     parser.addHelpOption();
     CSettings::addPreferencesFileOption(parser);
-    parser.addOptions({temporarySettings, consoleLog, data, snapshot, tour, leave});
+    parser.addOptions({temporarySettings, consoleLog, data, service, snapshot, tour, leave});
     parser.addPositionalArgument(u"photos"_qs, u"A folder of photographs, or one of them."_qs, u"[photos]"_qs);
     parser.process(*QCoreApplication::instance());
 
@@ -40,6 +41,7 @@ Options parseOptions()
         parser.showHelp(1);
     }
     options.photos = parser.positionalArguments().value(0, QStringLiteral(LIGHTBOX_SAMPLES));
+    options.service = QUrl::fromUserInput(parser.value(service));
     options.snapshot = parser.value(snapshot);
     options.temporarySettings = parser.isSet(temporarySettings);
     options.consoleLog = parser.isSet(consoleLog);

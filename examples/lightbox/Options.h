@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QUrl>
 
 /*! What the command line asks for. */
 struct Options
@@ -10,6 +11,7 @@ struct Options
     QString workFolder; // for preferences, settings, logs and data
     QString preferencesFile;
     QString photos; // a folder, or one photograph in it
+    QUrl service; // that describes photographs; empty for none
     QString snapshot; // PNG file to write of the window, empty for none
     bool temporarySettings = false;
     bool consoleLog = false;

@@ -3,6 +3,7 @@
 #include "Tour.h"
 
 #include "MainWindow.h"
+#include "PhotoService.h"
 #include "Report.h"
 #include "SettingsPanel.h"
 
@@ -12,6 +13,8 @@
 #include <QtCore/QScopeGuard>
 #include <QtCore/QThread>
 #include <QtGui/QAction>
+
+#include <utility>
 
 using namespace ZYX_zglv6;
 
@@ -44,8 +47,9 @@ QString stateOf(const CSettingsPushButton *row)
 
 } // namespace
 
-CTour::CTour(CMainWindow &window)
+CTour::CTour(CMainWindow &window, QUrl service)
     : m_window(window)
+    , m_service(std::move(service))
 {
 }
 
@@ -89,6 +93,7 @@ void CTour::commandCarriedOut()
               u"\"Frame\" was carried out %1 ms after the loading: it shows %2"_qs.arg(
                   QString::number(m_sinceLoading.elapsed()), stateOf(m_window.panel().framed())));
     loadingWithoutPatience();
+    questions();
     Q_EMIT finished(); // keep last
 }
 
@@ -112,4 +117,18 @@ void CTour::loadingWithoutPatience()
     printLine(12, QLatin1StringView("patience"),
               u"with %1 ms: \"%2\"; without a limit: \"%3\""_qs.arg(QString::number(shortPatienceMs), late,
                                                                     m_window.statusText()));
+}
+
+/*! One that the service answers, one that it refuses, and one where there is no service. */
+void CTour::questions()
+{
+    if (m_service.isEmpty()) {
+        return;
+    }
+    m_window.askService();
+    printLine(13, QLatin1StringView("service"), m_window.statusText());
+    printLine(14, QLatin1StringView("fault"), CPhotoService(m_service).describe(m_window.currentName(), QSize(0, 0)));
+    QUrl nowhere = m_service;
+    nowhere.setPort(1); // nothing listens there
+    printLine(15, QLatin1StringView("refused"), CPhotoService(nowhere).describe(m_window.currentName(), QSize(1, 1)));
 }

@@ -46,7 +46,8 @@ int main(int argc, char *argv[])
     startUp.noteLaunch();
     window.restorePanel();
 
-    CTour tour(window);
+    window.setService(options.service);
+    CTour tour(window, options.service);
     QObject::connect(&tour, &CTour::finished, &window, [&] { finishStart(window, options); });
     // Queued: the window has been painted by then. Once: only the start is meant.
     QObject::connect(
@@ -55,6 +56,6 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    printLine(13, QLatin1StringView("left"), u"with %1"_qs.arg(result));
+    printLine(16, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }

@@ -9,6 +9,7 @@
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void snapshot_showsThePhotograph();
     void tour_showsWhatTheGateDoesWithCommands();
     void secondTour_findsThePanelAsTheFirstLeftIt();
+    void tourWithAService_showsAnswerFaultAndRefusal();
     void snapshotOfTheTour_showsTheFrameAndThePanel();
     void unreadablePhotograph_isToldAndLeaves();
     void missingPhotograph_isTold();
@@ -107,7 +109,7 @@ void tst_Lightbox::start_printsOneLineForEachStep()
     QVERIFY(!first.step(6).endsWith(u" 0x0"));
     QVERIFY2(first.step(7).contains(u"the first, last mode \"\", user "), qPrintable(first.step(7)));
     QVERIFY(first.step(8).endsWith(u" no state stored yet"));
-    QVERIFY(first.step(13).endsWith(u" with 0"));
+    QVERIFY(first.step(16).endsWith(u" with 0"));
     QCOMPARE(first.lines.size(), 10); // the logger has a line of its own
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }
@@ -199,6 +201,27 @@ void tst_Lightbox::secondTour_findsThePanelAsTheFirstLeftIt()
     QVERIFY2(second.step(11).endsWith(u"it shows off"), qPrintable(second.step(11)));
     const Run third = run({});
     QVERIFY2(third.step(8).endsWith(u"frame off"), qPrintable(third.step(8)));
+}
+
+void tst_Lightbox::tourWithAService_showsAnswerFaultAndRefusal()
+{
+    QProcess service; // ends with its standard input
+    service.start(QStandardPaths::findExecutable(u"python3"_qs, {u"/usr/bin"_qs}),
+                  {QStringLiteral(LIGHTBOX_SERVICE), u"--port"_qs, u"0"_qs});
+    if (!service.waitForStarted() || !service.waitForReadyRead(watchdogMs)) {
+        QSKIP("Needs python3-spyne.");
+    }
+    const QString port = QString::fromLatin1(service.readLine()).trimmed().section(u' ', -1);
+    const Run host = run({u"--tour"_qs, u"--service"_qs, u"http://127.0.0.1:%1/"_qs.arg(port)});
+    service.closeWriteChannel();
+    QVERIFY(service.waitForFinished(watchdogMs));
+
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.step(13).endsWith(u"The service says: lighthouse.jpg: 1067 x 1600 pixels, 1.7 megapixels"),
+             qPrintable(host.step(13)));
+    QVERIFY2(host.step(14).endsWith(u"No description: A photo has at least one pixel: 0 x 0"),
+             qPrintable(host.step(14)));
+    QVERIFY2(host.step(15).contains(u"No description: Network transport error (1): "), qPrintable(host.step(15)));
 }
 
 void tst_Lightbox::snapshotOfTheTour_showsTheFrameAndThePanel()
