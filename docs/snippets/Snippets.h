@@ -13,10 +13,13 @@
 class QAction;
 class QAtomicInt;
 class QObject;
+class QUrl;
 class QWidget;
 
 namespace ZYX_zglv6 {
 class CSettingsPushButton;
+class QtSoapHttpTransport;
+class QtSoapStruct;
 } // namespace ZYX_zglv6
 
 /*! The examples of the pages in docs/. The pages show them word for word, and tests/docs runs them. */
@@ -88,6 +91,15 @@ void addRows(QWidget *panel, const QList<Caption> &captions);
 
 void registerCommands(QAction *save, QAction *grain, ZYX_zglv6::CSettingsPushButton *border, QObject *document);
 void runBusy(const std::function<void()> &work);
+
+// soap.cpp
+
+QString exposureRequest(const QString &film, int speed);
+ZYX_zglv6::QtSoapStruct *newFrame(const QString &name, const QList<int> &histogram);
+QString answerOf(const QByteArray &document);
+void ask(ZYX_zglv6::QtSoapHttpTransport &transport, const QUrl &service,
+         const std::function<void(const QString &)> &tell);
+void usePrefixForDarkroom();
 
 // platform.cpp
 
