@@ -74,16 +74,17 @@ private:
         }
     }
 
-    /*! The name in front of the "=" here. */
+    /*! The name in front of the "=" here. No further back than the one before, so that many in a row take no time. */
     QByteArrayView attributeName() const
     {
-        const auto isBlank = [this](qsizetype at) { return QByteArrayView(" \t\r\n").contains(m_document[at]); };
+        const auto isAnyOf
+            = [this](QByteArrayView characters, qsizetype at) { return characters.contains(m_document[at]); };
         qsizetype end = m_at;
-        while (end > 0 && isBlank(end - 1)) {
+        while (end > 0 && isAnyOf(" \t\r\n", end - 1)) {
             --end;
         }
         qsizetype start = end;
-        while (start > 0 && !isBlank(start - 1)) {
+        while (start > 0 && !isAnyOf(" \t\r\n=\"'<", start - 1)) {
             --start;
         }
         return m_document.sliced(start, end - start);
