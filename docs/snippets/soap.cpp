@@ -41,8 +41,7 @@ QtSoapStruct *newFrame(const QString &name, const QList<int> &histogram)
 QString answerOf(const QByteArray &document)
 {
     QtSoapMessage answer;
-    answer.setContent(document); // a failure is a fault in the message
-    if (answer.isFault()) {
+    if (!answer.setContent(document) || answer.isFault()) {
         return u"refused: "_qs + answer.faultString().toString();
     }
     return answer.method()[u"seconds"_qs].toString();

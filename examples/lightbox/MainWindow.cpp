@@ -254,6 +254,7 @@ void CMainWindow::loadCurrent()
 {
     gate().blockActions();
     const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    m_currentSize = QSize(); // not known before it is loaded
     statusBar()->showMessage(tr("Loading %1").arg(currentName()));
 
     CPhotoLoader &loader = addLoader();

@@ -39,7 +39,10 @@ public:
     // These take the item over, in place of what stood there; it must not be owned yet. What does not fit is reported
     // by a warning, and the item stays the caller's.
 
-    /*! Puts \a item behind the last one, whatever its type. For one dimension. */
+    /*!
+        Puts \a item, whatever its type, behind the last position that insert() or append() used. What parse() read does
+        not count, and neither does the first insert() after clear(). For one dimension.
+    */
     void append(QtSoapType *item);
 
     /*! Puts \a item at a flat position, if it is of the array's type. */

@@ -128,7 +128,7 @@ void QtSoapHttpTransport::readResponse(QNetworkReply *reply)
 
 void QtSoapHttpTransport::readAnswer(QNetworkReply &reply)
 {
-    m_response.setContent(reply.readAll()); // a failure is a fault in the response
+    m_response.setContent(reply.readAll()); // false says no more than the response does
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (status != 200 && status != 100 && m_response.faultCode() == QtSoapMessage::Other) {
         m_response.setFaultCode(QtSoapMessage::Client);

@@ -17,8 +17,9 @@ namespace ZYX_zglv6 {
     Posts messages over HTTP or HTTPS and hands back the answers.
 
     Whatever becomes of a request comes through the two signals. getResponse().isFault() is true for a fault of the
-    service with a code that SOAP knows, for an answer that can't be read, and for an error of the network: "Network
-    transport error (number): text", with the numbers of QNetworkReply::NetworkError.
+    service with a code that SOAP knows, for an answer that can't be read (QtSoapMessage::setContent() tells of an
+    exception), and for an error of the network: "Network transport error (number): text", with the numbers of
+    QNetworkReply::NetworkError.
 
     Proxy, time limit, cookies and certificates are those of networkAccessManager(); an answer has no time limit unless
     one is set there. One of more than 64 MiB is aborted, error 5; but what comes with the status 401 or 407 Qt collects

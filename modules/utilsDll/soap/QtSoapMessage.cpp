@@ -166,7 +166,7 @@ void QtSoapMessage::setReadingFault(const QString &text, const QString &detailNa
     if (!isFault() && body()[u"Fault"_qs].isValid()) {
         m_envelope.clear(); // an earlier fault, of a code that is not known, would hide this one
     }
-    setFaultCode(VersionMismatch); // for every failure: it tells them from a service's own faults
+    setFaultCode(VersionMismatch); // for every failure, whatever it is
     setFaultString(text);
     addFaultDetail(new QtSoapSimpleType(QtSoapQName(detailName), detail));
 }

@@ -40,14 +40,14 @@ public:
     /*!
         Reads a document. False: it is none, or none of SOAP 1.1; the message then is a fault that says why, unless
         there is no element where the envelope belongs, as with a comment in front of it. A fault that the service sent
-       is no failure.
+        is no failure.
 
         Documents beyond 64 MiB, a million nodes, 256 nested elements or 256 attributes in scope, and those with a
         document type declaration, which SOAP forbids, are refused like text that is not XML.
     */
     bool setContent(const QByteArray &buffer);
 
-    /*! The same for a document that was read with namespaces. */
+    /*! The same for a document that was read with namespaces; of the limits the one on nesting holds. */
     bool setContent(QDomDocument &document);
 
     /*! The document, without an XML declaration; \a indent as of QDomDocument::toString(). */

@@ -18,7 +18,7 @@ char16_t inLowerCase(QChar ascii)
     return ascii >= u'A' && ascii <= u'Z' ? char16_t(ascii.unicode() + (u'a' - u'A')) : ascii.unicode();
 }
 
-/*! left.toLower() == right.toLower(), without a copy as long as the texts are ASCII. */
+/*! left.toLower() == right.toLower(), without a copy where two ASCII texts are equal or differ. */
 bool areEqualInLowerCase(QStringView left, QStringView right)
 {
     while (!left.isEmpty() && !right.isEmpty() && isAscii(left.front()) && isAscii(right.front())) {

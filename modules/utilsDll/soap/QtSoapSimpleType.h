@@ -25,10 +25,10 @@ public:
     void clear() override;
 
     /*!
-        Reads text as the type that the attribute "type" names, a string without one. Whole and decimal numbers of every
-        type are read as int; an empty text, or one that starts like a number but is no int, counts as 0. A boolean
-       other than "true" or "false" leaves the value as it was. Of an unknown type name the type is Other and the value
-       the text. False: no element, or a number that does not start like one.
+        Reads text as the type that the attribute "type" names, a string without one. Whole and decimal numbers of
+        every type are read as int; an empty text, or one that starts like a number but is no int, counts as 0. A
+        boolean other than "true" or "false" leaves the value as it was. Of an unknown type name the type is Other and
+        the value the text. False: no element, or a number that does not start like one.
     */
     bool parse(QDomNode node) override;
     bool isValid() const override;

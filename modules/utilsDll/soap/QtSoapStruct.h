@@ -21,8 +21,10 @@ public:
     QtSoapStruct &operator=(const QtSoapStruct &other);
     ~QtSoapStruct() override;
 
-    /*! Appends \a item, which must not be owned yet, and takes it over. Several members may have one name. A null item
-        ends the written members. */
+    /*!
+        Appends \a item, which must not be owned yet, and takes it over. Several members may have one name. A null item
+        ends the written members.
+    */
     void insert(QtSoapType *item);
 
     /*!

@@ -70,14 +70,14 @@ public:
 
     /*!
         Lets \a handler make the values of the type \a name, which is to be in lower case: one with capitals is never
-       found. The handler stays the caller's and must outlive the factory's use. False: the name has a handler, which it
-       keeps.
+        found. The handler stays the caller's and must outlive the factory's use. False: the name has a handler, which
+        it keeps.
     */
     bool registerHandler(const QString &name, QtSoapTypeConstructorBase *handler);
 
     /*!
-        The value of the element \a node. Holds null if it is no element, can't be read, or nests more than 256 deep;
-        of one that can't be read errorString() tells what its handler said.
+        The value of the element \a node. Holds null if it is no element, can't be read, or nests more than 256 deep.
+        Then errorString() tells what the outermost handler said; without a handler it stays as it was.
     */
     QtSmartPtr<QtSoapType> soapType(QDomNode node) const;
 

@@ -18,12 +18,14 @@ QString withRegisteredPrefix(const QString &uri, const QString &localName)
 
 constexpr int pieceLength = 4096;
 
+/*! Whether escaping in place moves much: the length for each sign. For a few signs a copy costs more. */
 bool hasMuchToEscape(const QString &text)
 {
     const auto isMarkup = [](QChar character) {
         return character == u'&' || character == u'<' || character == u'>' || character == u'\r';
     };
-    return text.size() > pieceLength && std::count_if(text.begin(), text.end(), isMarkup) > pieceLength / 4;
+    const auto signs = std::count_if(text.begin(), text.end(), isMarkup);
+    return signs > 16 && signs * text.size() > qint64(pieceLength) * pieceLength;
 }
 
 /*! Not by QDomText::splitText(), which leaks. A ">" is escaped only behind "]]": the three stay in one piece. */
@@ -112,7 +114,7 @@ QDomNode followingNode(QDomNode node, const QDomElement &root)
 void splitLongTexts(const QDomElement &root)
 {
     for (QDomNode node = root.firstChild(); !node.isNull(); node = followingNode(node, root)) {
-        if (node.isText() && hasMuchToEscape(node.nodeValue())) {
+        if (node.isText() && !node.isCDATASection() && hasMuchToEscape(node.nodeValue())) {
             splitText(node.toText());
         }
     }

@@ -28,8 +28,8 @@ void setAttribute(QDomElement &element, const QString &uri, const QString &local
 QDomAttr plainAttribute(const QDomElement &element, const QString &name);
 
 /*!
-    Cuts texts with much to escape into pieces, which changes nothing in what is written. Qt escapes a text in place, in
-    time with the square of what there is to escape.
+    Cuts texts with much to escape into pieces, which changes nothing in what is written. Qt escapes a text in place,
+    and moves all that follows for each sign.
 */
 void splitLongTexts(const QDomElement &root);
 
