@@ -180,8 +180,8 @@ QString QtSoapMessage::toXmlString(int indent) const
     QDomElement root = m_envelope.toDomElement(document);
     document.appendChild(root);
     root.setAttribute(namespaces.prefixFor(envelopeUri()) + u":encodingStyle", encodingUri());
-    splitLongTexts(root);
     root.setAttribute(u"xmlns:" + namespaces.prefixFor(schemaUri()), schemaUri());
+    splitLongTexts(root);
     return document.toString(indent);
 }
 
