@@ -44,6 +44,7 @@ function(zyx_target_defaults target)
     )
     if(MSVC)
         # 4251, 4275: hosts and library are built with the same Qt and standard library
+        target_compile_definitions(${target} PRIVATE NOMINMAX)
         target_compile_options(${target} PRIVATE /utf-8 /W4 /permissive- /wd4251 /wd4275 $<$<BOOL:${ZYX_WARNINGS_AS_ERRORS}>:/WX>)
     else()
         file(RELATIVE_PATH sourceFolder "${PROJECT_BINARY_DIR}" "${PROJECT_SOURCE_DIR}/") # as a compiler cache has it

@@ -9,16 +9,17 @@ export CCACHE_BASEDIR="$PWD"
 
 build_packages=(
     cmake ninja-build ccache g++ pkg-config
-    qt6-base-dev qt6-base-dev-tools libgl-dev libopengl-dev liblog4cplus-dev
-    fonts-dejavu-core
+    qt6-base-dev qt6-base-dev-tools libgl-dev libopengl-dev liblog4cplus-dev libminizip-dev zlib1g-dev
+    libcpp-httplib-dev libqt6sql6-sqlite fonts-dejavu-core
 )
 test_packages=(
     clang clang-format-14 libclang-rt-14-dev python3 python3-clang-14 binutils
     xvfb xauth xdotool x11-utils zenity
     libxml2-utils openssl python3-spyne python3-zeep python3-suds gsoap libgsoap-dev libsoap-lite-perl php-cli php-soap
+    zip unzip libzip-dev chromium chromium-driver python3-selenium
 )
 run_packages=(python3-spyne)
-bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev)
+bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev zip unzip libzip-dev)
 check_packages=(clang-format-14 clang-tidy-14 shellcheck)
 windows_packages=(
     xz-utils g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine wine64 xvfb xauth fonts-dejavu-core

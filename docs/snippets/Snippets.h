@@ -4,11 +4,13 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <functional>
+#include <memory>
 
 class QAction;
 class QAtomicInt;
@@ -18,6 +20,7 @@ class QWidget;
 
 namespace ZYX_zglv6 {
 class CSettingsPushButton;
+class CZipCrashReport;
 class QtSoapHttpTransport;
 class QtSoapStruct;
 } // namespace ZYX_zglv6
@@ -100,6 +103,14 @@ QString answerOf(const QByteArray &document);
 void ask(ZYX_zglv6::QtSoapHttpTransport &transport, const QUrl &service,
          const std::function<void(const QString &)> &tell);
 void usePrefixForDarkroom();
+
+// crashReport.cpp
+
+std::unique_ptr<ZYX_zglv6::CZipCrashReport> gatherCrashReport(const QString &email, const QString &comments);
+QString newestReport(const ZYX_zglv6::CZipCrashReport &report);
+void sendReport(ZYX_zglv6::CZipCrashReport &report, const std::function<void(bool)> &tell);
+bool isTextDumpWaiting();
+bool copyThroughArchive(const QDir &from, const QDir &to, const QFileInfo &zipFile);
 
 // platform.cpp
 

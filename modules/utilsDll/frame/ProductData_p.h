@@ -6,8 +6,14 @@
 
 namespace ZYX_zglv6 {
 
-/*! What the build knows of the product: the CMake cache variables ZYX_PRODUCT_VERSION and ZYX_FRAMEWORK_VERSION. */
+// What the build knows of the product: ZYX_PRODUCT_VERSION and the CMake cache variables beside it.
+
 QLatin1StringView productVersion();
 QLatin1StringView frameworkVersion();
+QLatin1StringView crashServiceHost();
+QLatin1StringView serviceOwnerHost();
+
+/*! That of this library, which no variable changes. */
+QLatin1StringView libraryVersion();
 
 } // namespace ZYX_zglv6

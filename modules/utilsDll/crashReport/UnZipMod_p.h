@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace ZYX_zglv6::UnZipMod {
+
+/*!
+    Unpacks the entry \a entryName of the archive at \a zipPath below \a folder, or all entries with an empty name; an
+    empty \a password is none. With a name, true says that nothing was wrong with the entry. With none the result is
+    the one of DecompressFiles(), and so is what is thrown.
+*/
+bool extractZipArchive(const QString &folder, const QString &zipPath, const QString &entryName,
+                       const QByteArray &password);
+
+} // namespace ZYX_zglv6::UnZipMod
