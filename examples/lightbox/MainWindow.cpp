@@ -5,8 +5,9 @@
 #include "PhotoLoader.h"
 #include "PhotoService.h"
 #include "PhotoView.h"
-#include "Report.h"
 #include "SettingsPanel.h"
+
+#include "common/Report.h"
 
 #include "utilsDll/actions/ActionManager.h"
 #include "utilsDll/dialogs/SettingsPushButton.h"
@@ -123,7 +124,7 @@ void CMainWindow::restorePanel()
     m_view->setBlackAndWhite(m_panel->blackAndWhite()->isButtonChecked());
     m_view->setMirrored(m_panel->mirrored()->isButtonChecked());
     m_view->setFramed(m_panel->framed()->isButtonChecked());
-    printLine(8, QLatin1StringView("panel"),
+    printLine(9, QLatin1StringView("panel"),
               blob.isEmpty()
                   ? u"no state stored yet"_qs
                   : u"restored from %1 bytes; frame %2"_qs.arg(

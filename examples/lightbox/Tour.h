@@ -2,23 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Options.h"
+
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
-#include <QtCore/QUrl>
 
 class CMainWindow;
 
 /*!
     Plays a user who gives commands at good and at bad moments, and prints a line for each thing that the gate for
-    commands does with them. Also shows a loading that takes too long, and what a service answers.
+    commands does with them. Also shows a loading that takes too long, what a service answers, and what a crash leaves.
 */
 class CTour final : public QObject
 {
     Q_OBJECT
 
 public:
-    /*! \a service may be empty: then there is nothing to ask. */
-    CTour(CMainWindow &window, QUrl service);
+    /*! Without a service there is nothing to ask. */
+    CTour(CMainWindow &window, Options options);
 
     /*! Goes the whole way. Call it while nothing is loading. */
     void start();
@@ -32,8 +33,9 @@ private:
     void commandCarriedOut();
     void loadingWithoutPatience();
     void questions();
+    void crash();
 
     CMainWindow &m_window;
-    QUrl m_service;
+    Options m_options;
     QElapsedTimer m_sinceLoading;
 };

@@ -1,12 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "CrashDump.h"
+#include "HostSteps.h"
 #include "LightboxApplication.h"
 #include "MainWindow.h"
 #include "Options.h"
-#include "OwnStore.h"
-#include "Report.h"
-#include "StartUp.h"
 #include "Tour.h"
+
+#include "common/OwnStore.h"
+#include "common/Report.h"
+#include "common/StartUp.h"
+
+#include "utilsDll/frame/LoggerInterface.h"
 
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
@@ -16,6 +21,10 @@ namespace {
 /*! What the command line asked for beyond looking at photographs. */
 void finishStart(CMainWindow &window, const Options &options)
 {
+    if (options.crash != Crash::None) {
+        ZYX_LOG('F', "Crashes because it was asked to");
+        crashNow(options.crash);
+    }
     if (!options.snapshot.isEmpty() && !window.grab().save(options.snapshot)) {
         QTextStream(stderr) << "lightbox: " << options.snapshot << " could not be written" << Qt::endl;
     }
@@ -32,22 +41,19 @@ int main(int argc, char *argv[])
     const Options options = parseOptions();
     useOwnStore(options.workFolder);
 
-    CStartUp startUp(options);
-    startUp.reportModule();
-    startUp.choosePreferencesFile();
-    startUp.initializeStorage();
-    startUp.chooseSettings();
-    startUp.startLog();
+    CStartUp startUp(options, u"lightbox"_qs);
+    startUp.goTheWholeWay();
+    watchForCrashes(options);
 
     CMainWindow window(options.photos);
     application.setMainWindow(&window);
     window.show();
-    startUp.reportMainWindow();
-    startUp.noteLaunch();
+    reportMainWindow();
+    noteLaunch();
     window.restorePanel();
 
     window.setService(options.service);
-    CTour tour(window, options.service);
+    CTour tour(window, options);
     QObject::connect(&tour, &CTour::finished, &window, [&] { finishStart(window, options); });
     // Queued: the window has been painted by then. Once: only the start is meant.
     QObject::connect(
@@ -56,6 +62,6 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    printLine(16, QLatin1StringView("left"), u"with %1"_qs.arg(result));
+    printLine(18, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }

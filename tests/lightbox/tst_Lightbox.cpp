@@ -57,6 +57,7 @@ private Q_SLOTS:
     void foreignNamesWithPlaceMarkers_areShownAsTheyAre();
     void preferencesFileThatCannotBeWritten_isTold();
     void wrongOption_endsWithoutStarting();
+    void surplusArgument_endsWithoutStarting();
     void emptyPreferencesFile_endsWithoutStarting();
 
 private:
@@ -106,11 +107,12 @@ void tst_Lightbox::start_printsOneLineForEachStep()
     QVERIFY2(first.step(3).contains(u"data in "_qs + dataFolder()), qPrintable(first.step(3)));
     QVERIFY(first.step(4).endsWith(u"in the system store"));
     QVERIFY(first.step(5).endsWith(u"lightbox.txt, logs of earlier runs: 0"));
-    QVERIFY(!first.step(6).endsWith(u" 0x0"));
-    QVERIFY2(first.step(7).contains(u"the first, last mode \"\", user "), qPrintable(first.step(7)));
-    QVERIFY(first.step(8).endsWith(u" no state stored yet"));
-    QVERIFY(first.step(16).endsWith(u" with 0"));
-    QCOMPARE(first.lines.size(), 10); // the logger has a line of its own
+    QVERIFY(first.step(6).endsWith(u" no dump of an earlier run"));
+    QVERIFY(!first.step(7).endsWith(u" 0x0"));
+    QVERIFY2(first.step(8).contains(u"the first, last mode \"\", user "), qPrintable(first.step(8)));
+    QVERIFY(first.step(9).endsWith(u" no state stored yet"));
+    QVERIFY(first.step(18).endsWith(u" with 0"));
+    QCOMPARE(first.lines.size(), 11); // the logger has a line of its own
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }
 
@@ -134,7 +136,7 @@ void tst_Lightbox::secondStart_isNotTheFirstLaunchAndHasRolledTheLog()
     const Run second = run({});
     QVERIFY2(second.isClean, qPrintable(second.errors));
     QVERIFY(second.step(5).endsWith(u"logs of earlier runs: 1"));
-    QVERIFY2(second.step(7).contains(u"not the first, last mode \"Standalone\""), qPrintable(second.step(7)));
+    QVERIFY2(second.step(8).contains(u"not the first, last mode \"Standalone\""), qPrintable(second.step(8)));
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt.1"));
 }
 
@@ -144,7 +146,7 @@ void tst_Lightbox::temporarySettings_leaveNoTraceOfTheLaunch()
     QVERIFY2(throwAway.isClean, qPrintable(throwAway.errors));
     QVERIFY2(throwAway.step(4).contains(u"zglv6.ini"), qPrintable(throwAway.step(4)));
     QVERIFY(!QFile::exists(throwAway.step(4).section(u"throw-away, in "_qs, 1)));
-    QVERIFY(run({}).step(7).contains(u"the first"));
+    QVERIFY(run({}).step(8).contains(u"the first"));
 }
 
 void tst_Lightbox::consoleLog_goesToTheStandardOutput()
@@ -180,14 +182,14 @@ void tst_Lightbox::tour_showsWhatTheGateDoesWithCommands()
 {
     const Run host = run({u"--tour"_qs});
     QVERIFY2(host.isClean, qPrintable(host.errors));
-    QVERIFY2(host.step(9).endsWith(u"\"Next\" was carried out at once: mountain-lake.jpg"), qPrintable(host.step(9)));
-    QVERIFY2(host.step(10).endsWith(u"it shows off again"), qPrintable(host.step(10)));
-    QVERIFY2(host.step(11).endsWith(u"it shows on"), qPrintable(host.step(11)));
-    const int delayMs = host.step(11).section(u' ', -8, -8).toInt();
-    QVERIFY2(delayMs >= 900, qPrintable(host.step(11))); // 1000, with a coarse timer
-    QVERIFY2(host.step(12).contains(u"with 50 ms: \"lighthouse.jpg takes too long\""), qPrintable(host.step(12)));
-    QVERIFY2(host.step(12).endsWith(u"without a limit: \"1 of 2: lighthouse.jpg, 1067 x 1600\""),
-             qPrintable(host.step(12)));
+    QVERIFY2(host.step(10).endsWith(u"\"Next\" was carried out at once: mountain-lake.jpg"), qPrintable(host.step(10)));
+    QVERIFY2(host.step(11).endsWith(u"it shows off again"), qPrintable(host.step(11)));
+    QVERIFY2(host.step(12).endsWith(u"it shows on"), qPrintable(host.step(12)));
+    const int delayMs = host.step(12).section(u' ', -8, -8).toInt();
+    QVERIFY2(delayMs >= 900, qPrintable(host.step(12))); // 1000, with a coarse timer
+    QVERIFY2(host.step(13).contains(u"with 50 ms: \"lighthouse.jpg takes too long\""), qPrintable(host.step(13)));
+    QVERIFY2(host.step(13).endsWith(u"without a limit: \"1 of 2: lighthouse.jpg, 1067 x 1600\""),
+             qPrintable(host.step(13)));
 }
 
 void tst_Lightbox::secondTour_findsThePanelAsTheFirstLeftIt()
@@ -196,11 +198,11 @@ void tst_Lightbox::secondTour_findsThePanelAsTheFirstLeftIt()
     const Run second = run({u"--tour"_qs});
     QVERIFY2(second.isClean, qPrintable(second.errors));
     static const QRegularExpression restored(u" restored from [1-9][0-9]* bytes; frame on$"_qs);
-    QVERIFY2(restored.match(second.step(8)).hasMatch(), qPrintable(second.step(8)));
-    QVERIFY2(second.step(10).endsWith(u"it shows on again"), qPrintable(second.step(10)));
-    QVERIFY2(second.step(11).endsWith(u"it shows off"), qPrintable(second.step(11)));
+    QVERIFY2(restored.match(second.step(9)).hasMatch(), qPrintable(second.step(9)));
+    QVERIFY2(second.step(11).endsWith(u"it shows on again"), qPrintable(second.step(11)));
+    QVERIFY2(second.step(12).endsWith(u"it shows off"), qPrintable(second.step(12)));
     const Run third = run({});
-    QVERIFY2(third.step(8).endsWith(u"frame off"), qPrintable(third.step(8)));
+    QVERIFY2(third.step(9).endsWith(u"frame off"), qPrintable(third.step(9)));
 }
 
 void tst_Lightbox::tourWithAService_showsAnswerFaultAndRefusal()
@@ -220,11 +222,11 @@ void tst_Lightbox::tourWithAService_showsAnswerFaultAndRefusal()
     QVERIFY(service.waitForFinished(watchdogMs));
 
     QVERIFY2(host.isClean, qPrintable(host.errors));
-    QVERIFY2(host.step(13).endsWith(u"The service says: lighthouse.jpg: 1067 x 1600 pixels, 1.7 megapixels"),
-             qPrintable(host.step(13)));
-    QVERIFY2(host.step(14).endsWith(u"No description: A photo has at least one pixel: 0 x 0"),
+    QVERIFY2(host.step(14).endsWith(u"The service says: lighthouse.jpg: 1067 x 1600 pixels, 1.7 megapixels"),
              qPrintable(host.step(14)));
-    QVERIFY2(host.step(15).contains(u"No description: Network transport error (1): "), qPrintable(host.step(15)));
+    QVERIFY2(host.step(15).endsWith(u"No description: A photo has at least one pixel: 0 x 0"),
+             qPrintable(host.step(15)));
+    QVERIFY2(host.step(16).contains(u"No description: Network transport error (1): "), qPrintable(host.step(16)));
 }
 
 void tst_Lightbox::snapshotOfTheTour_showsTheFrameAndThePanel()
@@ -313,6 +315,14 @@ void tst_Lightbox::wrongOption_endsWithoutStarting()
     const Run host = run({u"--no-such-option"_qs});
     QVERIFY(!host.isClean);
     QCOMPARE(host.lines, QStringList());
+    QVERIFY(!QFile::exists(m_workFolder));
+}
+
+void tst_Lightbox::surplusArgument_endsWithoutStarting()
+{
+    const Run host = run({u"one.jpg"_qs, u"two.jpg"_qs});
+    QVERIFY(!host.isClean);
+    QVERIFY2(host.errors.contains(u"one argument too many: two.jpg"), qPrintable(host.errors));
     QVERIFY(!QFile::exists(m_workFolder));
 }
 

@@ -1,20 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "StartUp.h"
+#include "common/StartUp.h"
 
-#include "Report.h"
+#include "common/Report.h"
 
 #include "loggerSupport/LoggerWrapper.h"
 #include "storageLocation/storageLocation.h"
-#include "utilsDll/frame/Application.h"
 #include "utilsDll/frame/ProcessInfo.h"
 #include "utilsDll/frame/SharedConstants.h"
 #include "utilsDll/settings/ApplicationState.h"
 #include "utilsDll/settings/Settings.h"
 
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
+#include <QtCore/QTextStream>
 
 #include <utility>
 
@@ -22,7 +24,7 @@ using namespace ZYX_zglv6;
 
 namespace {
 
-constexpr QLatin1StringView logName("lightbox");
+constexpr QLatin1StringView dataOption("data");
 
 /*! The preferences file that an installer would have left; an existing one is the user's and stays. */
 bool writePreferencesOnce(const QString &path, const QString &workFolder)
@@ -37,7 +39,7 @@ bool writePreferencesOnce(const QString &path, const QString &workFolder)
     return preferences.status() == QSettings::NoError;
 }
 
-QString describeLog()
+QString describeLog(const QString &logName)
 {
     const QDir folder(CStorageLocation::loggerFilesPath());
     const QString fileName = logName + u".txt";
@@ -48,8 +50,42 @@ QString describeLog()
 
 } // namespace
 
-CStartUp::CStartUp(Options options)
-    : m_options(std::move(options))
+void addStartUpOptions(QCommandLineParser &parser)
+{
+    CSettings::addPreferencesFileOption(parser);
+    parser.addOption(QCommandLineOption(dataOption, u"Folder for everything that this host keeps."_qs, u"folder"_qs,
+                                        QStringLiteral(EXAMPLE_WORK_FOLDER)));
+}
+
+StartUpOptions readStartUpOptions(QCommandLineParser &parser)
+{
+    StartUpOptions options;
+    options.workFolder = QDir(parser.value(dataOption)).absolutePath();
+    // A shipping host takes CStorageLocation::getDefaultPreferencesFilePath(); an example stays out of the user's
+    // folders.
+    options.preferencesFile = CSettings::getPreferencesFilePathFromCommandLine(
+        parser, QDir(options.workFolder).absoluteFilePath(u"Preferences.ini"_qs));
+    if (options.preferencesFile.isEmpty()) {
+        QTextStream(stderr) << QCoreApplication::applicationName() << ": the preferences file has no name" << Qt::endl;
+        parser.showHelp(1);
+    }
+    return options;
+}
+
+void refuseSurplusArguments(QCommandLineParser &parser, qsizetype most)
+{
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() > most) {
+        QTextStream(stderr) << QCoreApplication::applicationName() << ": one argument too many: " << arguments.at(most)
+                            << Qt::endl;
+        parser.showHelp(1);
+    }
+}
+
+// NOLINTNEXTLINE(modernize-pass-by-value): a host has options of a derived type, which a value would slice
+CStartUp::CStartUp(const StartUpOptions &options, QString logName)
+    : m_options(options)
+    , m_logName(std::move(logName))
 {
 }
 
@@ -100,21 +136,16 @@ void CStartUp::startLog() const
         printLine(5, QLatin1StringView("log"), u"switched off"_qs);
         return;
     }
-    initLogger(logName, m_options.consoleLog ? LoggerTypeConsole : LoggerTypeFile);
-    printLine(5, QLatin1StringView("log"), m_options.consoleLog ? u"on the standard output"_qs : describeLog());
+    initLogger(m_logName, m_options.consoleLog ? LoggerTypeConsole : LoggerTypeFile);
+    printLine(5, QLatin1StringView("log"),
+              m_options.consoleLog ? u"on the standard output"_qs : describeLog(m_logName));
 }
 
-void CStartUp::reportMainWindow() const
+void CStartUp::goTheWholeWay()
 {
-    printLine(6, QLatin1StringView("window"), u"main window 0x%1"_qs.arg(mainWindowHandle(), 0, 16));
-}
-
-void CStartUp::noteLaunch() const
-{
-    const QString lastMode = getLastLaunchMode();
-    printLine(7, QLatin1StringView("launch"),
-              u"%1, last mode \"%2\", user %3, reseller %4"_qs.arg(
-                  isFirstLaunch() ? u"the first"_qs : u"not the first"_qs, lastMode, getUserID(), getResellerID()));
-    setNotFirstLaunch();
-    setLastLaunchMode(launchModeStandalone);
+    reportModule();
+    choosePreferencesFile();
+    initializeStorage();
+    chooseSettings();
+    startLog();
 }

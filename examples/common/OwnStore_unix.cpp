@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "OwnStore.h"
+#include "common/OwnStore.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QSettings>

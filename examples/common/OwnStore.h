@@ -5,7 +5,7 @@
 #include <QtCore/QString>
 
 /*!
-    Gives this example a system store of settings of its own, so that trying it leaves the user's settings alone: a
+    Gives the examples a system store of settings of their own, so that trying them leaves the user's settings alone: a
     folder, with the local application data beside it; on Windows the registry key "Software\UtilsDllzglv6 Lightbox",
     and the library's default data folder is still made, empty, in the user's profile. A shipping host has no such call.
     Before the first use of QSettings and QStandardPaths.

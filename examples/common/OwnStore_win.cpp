@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
-#include "OwnStore.h"
+#include "common/OwnStore.h"
 
 #include <QtCore/QtGlobal>
 
@@ -13,7 +13,7 @@ void useOwnStore(const QString & /*workFolder*/)
                         &key, nullptr)
             != ERROR_SUCCESS
         || RegOverridePredefKey(HKEY_CURRENT_USER, key) != ERROR_SUCCESS) {
-        qFatal("The registry key of this example could not be opened.");
+        qFatal("The registry key of the examples could not be opened.");
     }
     RegCloseKey(key);
 }

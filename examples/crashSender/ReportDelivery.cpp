@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "ReportDelivery.h"
+
+#include "utilsDll/frame/SharedConstants.h"
+#include "utilsDll/soap/QtSoapMessage.h"
+
+using namespace ZYX_zglv6;
+
+namespace {
+
+constexpr int httpPort = 80;
+constexpr int patienceMs = 30'000;
+constexpr QLatin1StringView operation("ReportCrash");
+constexpr QLatin1StringView networkError("Network transport error ("); // and a QNetworkReply::NetworkError
+
+QString serviceNamespace()
+{
+    return QStringLiteral("http://" ZYX_SERVICE_OWNER_HOST) + crashServiceNamespacePath;
+}
+
+/*! The service knows reports by these three texts, whichever product of the family has crashed. */
+QtSoapMessage requestFor(const QByteArray &archive)
+{
+    QtSoapMessage request;
+    request.setMethod(operation, serviceNamespace());
+    request.addMethodArgument(u"platform"_qs, QString(), u"Win"_qs);
+    request.addMethodArgument(u"product"_qs, QString(), productDisplayName);
+    request.addMethodArgument(u"version"_qs, QString(), QStringLiteral(CRASH_SENDER_VERSION));
+    request.addMethodArgument(u"data"_qs, QString(), QString::fromLatin1(archive.toBase64()));
+    return request;
+}
+
+QString inWords(const QString &fault)
+{
+    if (fault.isEmpty()) {
+        return CReportDelivery::tr("The service tells of an error without a reason");
+    }
+    if (!fault.startsWith(networkError)) {
+        return fault;
+    }
+    const int code = fault.mid(networkError.size()).section(u')', 0, 0).toInt();
+    if (code == QNetworkReply::OperationCanceledError) { // by a time limit
+        return CReportDelivery::tr("The service does not answer");
+    }
+    const bool isReached = code == QNetworkReply::RemoteHostClosedError || code > QNetworkReply::UnknownProxyError;
+    return (isReached ? CReportDelivery::tr("The service gave no proper answer (%1)")
+                      : CReportDelivery::tr("The service could not be reached (%1)"))
+        .arg(fault);
+}
+
+} // namespace
+
+CReportDelivery::CReportDelivery(const QUrl &service, QObject *parent)
+    : QObject(parent)
+{
+    m_transport.setHost(service.host(), service.port(httpPort));
+    m_transport.setAction(serviceNamespace() + u'/' + operation);
+    setTimeLimit(patienceMs);
+    connect(&m_transport, qOverload<const QtSoapMessage &>(&QtSoapHttpTransport::responseReady), this,
+            &CReportDelivery::takeAnswer);
+}
+
+void CReportDelivery::setTimeLimit(int milliseconds)
+{
+    m_transport.networkAccessManager()->setTransferTimeout(milliseconds);
+}
+
+void CReportDelivery::send(const QByteArray &archive)
+{
+    m_isSending = true;
+    m_isCancelled = false;
+    m_transport.submitRequest(requestFor(archive), crashServicePath);
+    connect(m_transport.networkReply(), &QNetworkReply::uploadProgress, this, &CReportDelivery::progressed);
+}
+
+bool CReportDelivery::isSending() const
+{
+    return m_isSending;
+}
+
+void CReportDelivery::cancel()
+{
+    if (!m_isSending || m_transport.networkReply() == nullptr) {
+        return;
+    }
+    m_isCancelled = true;
+    m_transport.networkReply()->abort();
+}
+
+void CReportDelivery::takeAnswer(const QtSoapMessage &answer)
+{
+    m_isSending = false;
+    Q_EMIT finished(resultOf(answer)); // keep last
+}
+
+DeliveryResult CReportDelivery::resultOf(const QtSoapMessage &answer) const
+{
+    if (m_isCancelled) {
+        return {DeliveryResult::Cancelled, tr("It was cancelled")};
+    }
+    if (answer.isFault()) { // also if there was no service, or no answer that could be read
+        return {DeliveryResult::Failed, inWords(answer.faultString().toString())};
+    }
+    const QtSoapType &method = answer.method();
+    const QString word = method[u"ReportCrashResult"_qs].toString();
+    if (word != u"NoError") {
+        return {DeliveryResult::Refused, word.isEmpty() ? tr("The answer holds no verdict") : word};
+    }
+    return {DeliveryResult::Accepted, method[u"identifier"_qs].toString()};
+}
