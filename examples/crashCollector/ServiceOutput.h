@@ -4,8 +4,10 @@
 
 #include <QtCore/QString>
 
-/*! Prints one line of what this service does to the standard output, at once. Line ends and other control characters
- * become blanks. */
+/*!
+    Prints one line of what this service does to the standard output, at once. Line ends and other control characters
+    become blanks.
+*/
 void printServiceLine(const QString &text);
 
 /*! The same to the standard error. */

@@ -5,6 +5,7 @@
 #include "utilsDll/crashReport/zipCrashReport.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QMap>
 #include <QtCore/QString>
 
 #include <memory>
@@ -36,17 +37,21 @@ public:
     QString email() const;
     QString comment() const;
 
-    /*! Brings the two texts into the archive of a new report. False: they are not in it. */
+    /*! Brings the two texts into the archive of a new report. False: they are not in it, or it is no longer whole. */
     bool setTexts(const QString &email, const QString &comment);
 
     /*! The archive's bytes; null if they can't be read. */
     QByteArray read() const;
 
 private:
+    bool isWholeWith(const QString &email, const QString &comment) const;
+
     ZYX_zglv6::CBaseCrashParser m_parser; // outlives the report
     std::unique_ptr<ZYX_zglv6::CZipCrashReport> m_report; // of a new one
     Origin m_origin = Origin::None;
     QString m_archive;
     QString m_email;
     QString m_comment;
+    QMap<QString, qint64> m_packed; // files of a new report besides its description, with their sizes
+    bool m_isWhole = true; // as far as it was looked at
 };

@@ -70,10 +70,21 @@ CReportContents::CReportContents(const QString &archive)
         ZYX_LOG('E', m_folder->errorString());
         return;
     }
-    try {
-        DecompressFiles(QFileInfo(archive), QDir(m_folder->path()), QString()); // its result is no verdict
-    } catch (const std::filesystem::filesystem_error &error) {
-        ZYX_LOG('E', error.what());
+    unpack(archive);
+}
+
+/*! The library makes folders one level deep, and throws at a deeper one: it is made here then. */
+void CReportContents::unpack(const QString &archive) const
+{
+    for (bool isMade = true; isMade;) {
+        isMade = false;
+        try {
+            DecompressFiles(QFileInfo(archive), QDir(m_folder->path()), QString()); // its result is no verdict
+        } catch (const std::filesystem::filesystem_error &error) {
+            const QDir missing(QFileInfo(error.path1()).absoluteFilePath());
+            isMade = !missing.exists() && missing.mkpath(u"."_qs);
+            ZYX_LOG(isMade ? 'D' : 'E', error.what());
+        }
     }
 }
 

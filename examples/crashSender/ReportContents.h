@@ -28,5 +28,7 @@ public:
     static QString preview(const QString &path);
 
 private:
+    void unpack(const QString &archive) const;
+
     std::unique_ptr<QTemporaryDir> m_folder;
 };

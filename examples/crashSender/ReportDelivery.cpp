@@ -40,8 +40,8 @@ QString inWords(const QString &fault)
         return fault;
     }
     const int code = fault.mid(networkError.size()).section(u')', 0, 0).toInt();
-    if (code == QNetworkReply::OperationCanceledError) { // by a time limit
-        return CReportDelivery::tr("The service does not answer");
+    if (code == QNetworkReply::OperationCanceledError) { // by the transport, which has a limit of its own
+        return CReportDelivery::tr("The answer of the service is too long");
     }
     const bool isReached = code == QNetworkReply::RemoteHostClosedError || code > QNetworkReply::UnknownProxyError;
     return (isReached ? CReportDelivery::tr("The service gave no proper answer (%1)")
@@ -56,22 +56,32 @@ CReportDelivery::CReportDelivery(const QUrl &service, QObject *parent)
 {
     m_transport.setHost(service.host(), service.port(httpPort));
     m_transport.setAction(serviceNamespace() + u'/' + operation);
+    m_silence.setSingleShot(true);
     setTimeLimit(patienceMs);
+    connect(&m_silence, &QTimer::timeout, this, [this] {
+        m_isSilent = true;
+        abort(); // keep last
+    });
     connect(&m_transport, qOverload<const QtSoapMessage &>(&QtSoapHttpTransport::responseReady), this,
             &CReportDelivery::takeAnswer);
 }
 
 void CReportDelivery::setTimeLimit(int milliseconds)
 {
-    m_transport.networkAccessManager()->setTransferTimeout(milliseconds);
+    m_silence.setInterval(milliseconds);
 }
 
 void CReportDelivery::send(const QByteArray &archive)
 {
     m_isSending = true;
     m_isCancelled = false;
+    m_isSilent = false;
     m_transport.submitRequest(requestFor(archive), crashServicePath);
-    connect(m_transport.networkReply(), &QNetworkReply::uploadProgress, this, &CReportDelivery::progressed);
+    const QNetworkReply *reply = m_transport.networkReply();
+    connect(reply, &QNetworkReply::uploadProgress, this, &CReportDelivery::progressed);
+    connect(reply, &QNetworkReply::uploadProgress, this, &CReportDelivery::awaitMore);
+    connect(reply, &QNetworkReply::readyRead, this, &CReportDelivery::awaitMore);
+    awaitMore();
 }
 
 bool CReportDelivery::isSending() const
@@ -81,16 +91,31 @@ bool CReportDelivery::isSending() const
 
 void CReportDelivery::cancel()
 {
-    if (!m_isSending || m_transport.networkReply() == nullptr) {
+    if (!m_isSending) {
         return;
     }
     m_isCancelled = true;
-    m_transport.networkReply()->abort();
+    abort(); // keep last
+}
+
+void CReportDelivery::awaitMore()
+{
+    if (m_isSending) { // not if a slot before this one has ended it
+        m_silence.start();
+    }
+}
+
+void CReportDelivery::abort()
+{
+    if (m_transport.networkReply() != nullptr) {
+        m_transport.networkReply()->abort();
+    }
 }
 
 void CReportDelivery::takeAnswer(const QtSoapMessage &answer)
 {
     m_isSending = false;
+    m_silence.stop();
     Q_EMIT finished(resultOf(answer)); // keep last
 }
 
@@ -98,6 +123,9 @@ DeliveryResult CReportDelivery::resultOf(const QtSoapMessage &answer) const
 {
     if (m_isCancelled) {
         return {DeliveryResult::Cancelled, tr("It was cancelled")};
+    }
+    if (m_isSilent) {
+        return {DeliveryResult::Failed, tr("The service does not answer")};
     }
     if (answer.isFault()) { // also if there was no service, or no answer that could be read
         return {DeliveryResult::Failed, inWords(answer.faultString().toString())};

@@ -7,6 +7,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 #include <QtCore/QUrl>
 
 /*! What became of a delivery. */
@@ -51,10 +52,14 @@ Q_SIGNALS:
     void finished(const DeliveryResult &result);
 
 private:
+    void awaitMore();
+    void abort();
     void takeAnswer(const ZYX_zglv6::QtSoapMessage &answer);
     DeliveryResult resultOf(const ZYX_zglv6::QtSoapMessage &answer) const;
 
     ZYX_zglv6::QtSoapHttpTransport m_transport;
+    QTimer m_silence; // the network's own time limit does not tell that it was the reason
     bool m_isSending = false;
     bool m_isCancelled = false;
+    bool m_isSilent = false;
 };

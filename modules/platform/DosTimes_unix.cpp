@@ -4,7 +4,6 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <array>
 #include <ctime>
@@ -65,7 +64,7 @@ std::uint32_t lastWriteDosTime(const char *path)
 void setDosTime(const char *path, std::uint32_t dosTime)
 {
     std::tm time = timeOf(dosTime);
-    if (access(path, F_OK) != 0 || !isInCalendar(time)) {
+    if (!isInCalendar(time)) {
         return;
     }
     std::array<timespec, 2> times{}; // of reading and of writing

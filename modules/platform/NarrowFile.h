@@ -36,7 +36,10 @@ public:
     bool seek(std::uint64_t offset, Origin origin);
     bool close();
 
-    /*! The system's number of the last failure; 0 for none. Windows counts those of reading and writing alone. */
+    /*!
+        The system's number of the last failure before close(); 0 for none. Windows counts those of reading and writing
+        alone, and forgets them at the next end of the file.
+    */
     int error() const;
 
 private:

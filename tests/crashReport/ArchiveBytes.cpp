@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "crashReport/ArchiveBytes.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QtEndian>
 
 #include <zlib.h>
@@ -235,6 +236,19 @@ ReadArchive readArchive(const QByteArray &bytes)
     }
     archive.isWhole = isWhole && position == directory && cursor.position() == endStart;
     return archive;
+}
+
+Files entriesOf(const QString &path)
+{
+    const ReadArchive archive = readArchive(contentOf(path));
+    Files entries;
+    for (const ReadEntry &entry : archive.entries) {
+        if (entry.central.method != 0) {
+            return {};
+        }
+        entries.insert(QFile::decodeName(entry.central.name), entry.content);
+    }
+    return archive.isWhole && entries.size() == archive.entries.size() ? entries : Files();
 }
 
 QByteArray makeArchive(const QList<MadeEntry> &entries, std::optional<quint64> count)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "crashReport/ArchiveFiles.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 
@@ -49,6 +51,9 @@ struct ReadArchive
 
 /*! Reads an archive of plain sizes, as the format is published; no archive in front of or behind it. */
 ReadArchive readArchive(const QByteArray &bytes);
+
+/*! Of the archive \a path; empty if it is not whole, if an entry is compressed, and if two have one name. */
+Files entriesOf(const QString &path);
 
 /*! An entry to be written, honest but for what is given. */
 struct MadeEntry

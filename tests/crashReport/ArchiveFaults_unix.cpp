@@ -20,6 +20,8 @@ namespace TestSupport {
 
 namespace {
 
+constexpr int never = 0;
+
 struct Plan
 {
     QByteArray start;
@@ -27,7 +29,7 @@ struct Plan
     int nth;
     int error;
     std::function<void()> action;
-    int count = 0;
+    QList<std::size_t> sizes; // of all calls so far
     bool isActing = false;
 };
 
@@ -52,10 +54,14 @@ void watch(int descriptor, const char *path)
 }
 
 /*! Counts the call; true, with errno set, if it has to fail. */
-bool strikes(Call call)
+bool strikes(Call call, std::size_t size = 0)
 {
     Plan *plan = currentPlan;
-    if (plan == nullptr || plan->isActing || plan->call != call || ++plan->count != plan->nth) {
+    if (plan == nullptr || plan->isActing || plan->call != call) {
+        return false;
+    }
+    plan->sizes.append(size);
+    if (plan->sizes.size() != plan->nth) {
         return false;
     }
     if (plan->action) {
@@ -83,12 +89,17 @@ Function *realFunction(const char *name)
 
 Fault::Fault(const QString &start, Call call, int nth, int error)
 {
-    currentPlan = new Plan{QFile::encodeName(start), call, nth, error, {}};
+    currentPlan = new Plan{QFile::encodeName(start), call, nth, error, {}, {}};
 }
 
 Fault::Fault(const QString &start, Call call, int nth, std::function<void()> action)
 {
-    currentPlan = new Plan{QFile::encodeName(start), call, nth, 0, std::move(action)};
+    currentPlan = new Plan{QFile::encodeName(start), call, nth, 0, std::move(action), {}};
+}
+
+Fault::Fault(const QString &start, Call call)
+    : Fault(start, call, never, 0)
+{
 }
 
 Fault::~Fault()
@@ -98,7 +109,12 @@ Fault::~Fault()
 
 bool Fault::hasStruck() const
 {
-    return currentPlan->count >= currentPlan->nth;
+    return currentPlan->nth != never && currentPlan->sizes.size() >= currentPlan->nth;
+}
+
+QList<std::size_t> Fault::sizes() const
+{
+    return currentPlan->sizes;
 }
 
 int openFileCount()
@@ -148,25 +164,25 @@ EXPORTED int open64(const char *path, int flags, ...)
 EXPORTED ssize_t read(int descriptor, void *bytes, size_t size)
 {
     static const auto real = realFunction<ssize_t(int, void *, size_t)>("read");
-    return isWatchedDescriptor(descriptor) && strikes(Call::Read) ? -1 : real(descriptor, bytes, size);
+    return isWatchedDescriptor(descriptor) && strikes(Call::Read, size) ? -1 : real(descriptor, bytes, size);
 }
 
 EXPORTED ssize_t write(int descriptor, const void *bytes, size_t size)
 {
     static const auto real = realFunction<ssize_t(int, const void *, size_t)>("write");
-    return isWatchedDescriptor(descriptor) && strikes(Call::Write) ? -1 : real(descriptor, bytes, size);
+    return isWatchedDescriptor(descriptor) && strikes(Call::Write, size) ? -1 : real(descriptor, bytes, size);
 }
 
 EXPORTED ssize_t pread(int descriptor, void *bytes, size_t size, off_t offset)
 {
     static const auto real = realFunction<ssize_t(int, void *, size_t, off_t)>("pread");
-    return isWatchedDescriptor(descriptor) && strikes(Call::ReadAt) ? -1 : real(descriptor, bytes, size, offset);
+    return isWatchedDescriptor(descriptor) && strikes(Call::ReadAt, size) ? -1 : real(descriptor, bytes, size, offset);
 }
 
 EXPORTED ssize_t pwrite(int descriptor, const void *bytes, size_t size, off_t offset)
 {
     static const auto real = realFunction<ssize_t(int, const void *, size_t, off_t)>("pwrite");
-    return isWatchedDescriptor(descriptor) && strikes(Call::WriteAt) ? -1 : real(descriptor, bytes, size, offset);
+    return isWatchedDescriptor(descriptor) && strikes(Call::WriteAt, size) ? -1 : real(descriptor, bytes, size, offset);
 }
 
 EXPORTED int close(int descriptor)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtCore/QList>
+#include <QtCore/QMetaType>
 #include <QtCore/QString>
 
 #include <functional>
@@ -22,15 +24,22 @@ public:
     Fault(const QString &start, Call call, int nth, int error);
     /*! In front of the \a nth call \a action is done; calls within it are not counted. */
     Fault(const QString &start, Call call, int nth, std::function<void()> action);
+    /*! Nothing fails: for sizes() alone. */
+    Fault(const QString &start, Call call);
     ~Fault();
 
     Fault(const Fault &) = delete;
     Fault &operator=(const Fault &) = delete;
 
     bool hasStruck() const;
+
+    /*! How many bytes each such call asked for; 0 of calls without a size. */
+    QList<std::size_t> sizes() const;
 };
 
 /*! How many files the process has open. */
 int openFileCount();
 
 } // namespace TestSupport
+
+Q_DECLARE_METATYPE(TestSupport::Call)

@@ -22,7 +22,8 @@ inline QByteArray inBody(const QByteArray &content)
 /*! The struct with \a members, under the name that the service gives it. */
 inline QByteArray answer(const QByteArray &members, const QByteArray &name = "ReportCrashResponse")
 {
-    return inBody('<' + name + " xmlns=\"http://www.zyx.example/CollectDump\">" + members + "</" + name + '>');
+    return inBody('<' + name + " xmlns=\"http://" ZYX_SERVICE_OWNER_HOST "/CollectDump\">" + members + "</" + name
+                  + '>');
 }
 
 inline QByteArray accepted()
@@ -61,7 +62,7 @@ inline QString expectedCall(const QString &base64)
     if (!base64.isEmpty()) {
         arguments.append(argument.arg(u"data"_qs, base64));
     }
-    return u"ReportCrash[xmlns=http://www.zyx.example/CollectDump]("_qs + arguments.join(u' ') + u')';
+    return u"ReportCrash[xmlns=http://" ZYX_SERVICE_OWNER_HOST "/CollectDump]("_qs + arguments.join(u' ') + u')';
 }
 
 } // namespace ServiceDocuments

@@ -71,7 +71,8 @@ void tst_CrashService::crashReportMessage_isTheCallWithoutTheArchive()
 void tst_CrashService::crashReportMessage_methodHasNoPrefix()
 {
     const QString document = crashReportMessage().toXmlString(-1);
-    QVERIFY2(document.contains(u"<ReportCrash xmlns=\"http://www.zyx.example/CollectDump\">"), qPrintable(document));
+    QVERIFY2(document.contains(u"<ReportCrash xmlns=\"http://" ZYX_SERVICE_OWNER_HOST "/CollectDump\">"),
+             qPrintable(document));
     QVERIFY2(document.contains(u"</ReportCrash>"), qPrintable(document));
     QVERIFY2(!document.contains(u":ReportCrash"), qPrintable(document));
 }
@@ -111,7 +112,7 @@ void tst_CrashService::postCrashReport_host_data()
     QTest::addColumn<QByteArray>("preferences");
     QTest::addColumn<QString>("host");
 
-    const QString defaultHost = u"crashes.zyx.example"_qs;
+    const QString defaultHost = QStringLiteral(ZYX_CRASH_SERVICE_HOST);
     QTest::newRow("no file") << QByteArray() << defaultHost;
     QTest::newRow("no such key") << QByteArray("[CrashSender]\nPort=81\n") << defaultHost;
     QTest::newRow("key of another group") << QByteArray("[Other]\nHostName=other.example\n") << defaultHost;
@@ -150,7 +151,7 @@ void tst_CrashService::postCrashReport_header()
     const QNetworkRequest request = transport.networkReply()->request();
     QCOMPARE(request.url().scheme(), u"http"_qs);
     QCOMPARE(request.url().port(), 80);
-    QCOMPARE(request.rawHeader("SOAPAction"), "http://www.zyx.example/CollectDump/ReportCrash");
+    QCOMPARE(request.rawHeader("SOAPAction"), "http://" ZYX_SERVICE_OWNER_HOST "/CollectDump/ReportCrash");
     QCOMPARE(request.header(QNetworkRequest::ContentTypeHeader).toString(), u"text/xml;charset=utf-8"_qs);
 }
 

@@ -304,16 +304,15 @@ void tst_HostileArchives::pipeInTheTarget_isRefused()
 
 void tst_HostileArchives::pipeAsArchive_isNotOpened()
 {
+    RUN_IN_FRESH_PROCESS();
     const QString pipe = path(u"box/out/pipe.zip"_qs);
     if (!makeFifo(pipe)) {
         QSKIP("There are no pipes among the files here.");
     }
-    RUN_IN_FRESH_PROCESS();
     const TestLog log(m_sandbox.filePath(u"data"_qs));
-    const QString ownPipe = path(u"box/out/pipe.zip"_qs);
-    QVERIFY(!DecompressFiles(QFileInfo(ownPipe), path(u"box/out"_qs), QString()));
+    QVERIFY(!DecompressFiles(QFileInfo(pipe), path(u"box/out"_qs), QString()));
     QCOMPARE(log.records(),
-             QStringList(QString(u"ERROR ZYX_zglv6::UnZipMod::extractZipArchive: Cannot open file: "_qs + ownPipe)));
+             QStringList(QString(u"ERROR ZYX_zglv6::UnZipMod::extractZipArchive: Cannot open file: "_qs + pipe)));
 }
 
 void tst_HostileArchives::claims_areNotBelieved_data()
@@ -362,7 +361,6 @@ void tst_HostileArchives::truncatedArchive_isHarmless()
 {
     const QByteArray whole = smallArchive();
     for (qsizetype size = 0; size < whole.size(); ++size) {
-        writeFile(path(u"made.zip"_qs), whole.left(size));
         QVERIFY(!decompress(whole.left(size)));
         // The zeros at the very end may be missing: nothing of what counts is.
         QVERIFY2(extracted().isEmpty() || whole.mid(size).count('\0') == whole.size() - size, QByteArray::number(size));

@@ -251,10 +251,11 @@ void tst_ReportUpload::sendZipToServer_file_postsTheCall()
 
     QCOMPARE(proxy.requests().size(), 1);
     const ReceivedRequest &request = proxy.requests().constFirst();
-    QCOMPARE(request.line, "POST http://crashes.zyx.example:80/CollectDumpInfo/WSCollectDump.asmx HTTP/1.1");
-    QCOMPARE(request.values("SOAPAction"), QByteArrayList{"http://www.zyx.example/CollectDump/ReportCrash"});
+    QCOMPARE(request.line, "POST http://" ZYX_CRASH_SERVICE_HOST ":80/CollectDumpInfo/WSCollectDump.asmx HTTP/1.1");
+    QCOMPARE(request.values("SOAPAction"), QByteArrayList{"http://" ZYX_SERVICE_OWNER_HOST "/CollectDump/ReportCrash"});
     QCOMPARE(request.values("Content-Type"), QByteArrayList{"text/xml;charset=utf-8"});
-    QVERIFY2(request.body.contains("<ReportCrash xmlns=\"http://www.zyx.example/CollectDump\">"), request.body);
+    QVERIFY2(request.body.contains("<ReportCrash xmlns=\"http://" ZYX_SERVICE_OWNER_HOST "/CollectDump\">"),
+             request.body);
     QCOMPARE(bodyOf(QString::fromUtf8(request.body)), expectedCall(QString::fromLatin1(archive.toBase64())));
 }
 
@@ -277,8 +278,8 @@ void tst_ReportUpload::sendZipToServer_host_data()
     QTest::addColumn<QByteArray>("preferences");
     QTest::addColumn<QByteArray>("host");
 
-    QTest::newRow("no such key") << QByteArray("[CrashSender]\n") << QByteArray("crashes.zyx.example");
-    QTest::newRow("empty") << QByteArray("[CrashSender]\nHostName=\n") << QByteArray("crashes.zyx.example");
+    QTest::newRow("no such key") << QByteArray("[CrashSender]\n") << QByteArray(ZYX_CRASH_SERVICE_HOST);
+    QTest::newRow("empty") << QByteArray("[CrashSender]\nHostName=\n") << QByteArray(ZYX_CRASH_SERVICE_HOST);
     QTest::newRow("given") << QByteArray("[CrashSender]\nHostName=collector.example\n")
                            << QByteArray("collector.example");
 }
@@ -315,7 +316,7 @@ void tst_ReportUpload::sendZipToServer_withoutPreferencesPath_throws()
     } catch (const std::runtime_error &error) {
         text = error.what();
     }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    deleteLaterNow();
     QVERIFY(report);
     QCOMPARE(text, "Preferences file path not set");
     QCOMPARE(results.size(), 0);

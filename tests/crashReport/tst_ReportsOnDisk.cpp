@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "crashReport/ArchiveBytes.h"
 #include "crashReport/ReportFolders.h"
-#include "crashReport/StoredArchive.h"
 #include "support/AssertionReports.h"
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
@@ -23,8 +23,8 @@ using ReportFolders::logs;
 using ReportFolders::reports;
 using ReportFolders::treeOf;
 using ReportFolders::zipFiles;
-using StoredArchive::entriesOf;
 using TestSupport::AssertionReports;
+using TestSupport::entriesOf;
 
 namespace {
 
@@ -92,6 +92,8 @@ private Q_SLOTS:
     void constructor_descriptionCannotBeOpened_goesOn();
     void constructor_fullDisk_isReported();
     void constructor_nothingToPack_isReported();
+    void constructor_temporaryFolderCannotBeMade_isReported();
+    void repack_temporaryFolderCannotBeMade_isReported();
     void constructor_relativeDataDirectory_isReported();
 
 private:
@@ -268,7 +270,7 @@ void tst_ReportsOnDisk::constructor_twoInOneSecond_shareTheFile()
             continue;
         }
         QCOMPARE(zipFiles(), QStringList{reports() + u"/CrashReport_"_qs + before + u".zip"_qs});
-        const StoredArchive::Entries entries = entriesOf(zipFiles().constFirst());
+        const TestSupport::Files entries = entriesOf(zipFiles().constFirst());
         QCOMPARE(entries.keys(), (QStringList{u"report.xml"_qs, u"second.dmp"_qs})); // not added to the first
         QVERIFY(entries.value(u"report.xml"_qs).contains("<Comments>second</Comments>"));
         return;
@@ -420,12 +422,54 @@ void tst_ReportsOnDisk::constructor_nothingToPack_isReported()
     QVERIFY(QDir().mkpath(dumps() + u"/report.xml"));
     const AssertionReports assertions;
     const std::unique_ptr<CZipCrashReport> report = makeReport();
-    QCOMPARE(assertions.texts().size(), 3);
-    QVERIFY(assertions.texts().at(0).startsWith(u"ASSERT in ")); // the description
-    QVERIFY(assertions.texts().at(1).startsWith(u"ASSERT_X_RETURN_VALUE in "));
-    QVERIFY(assertions.texts().at(1).endsWith(u": No files to compress"));
-    QVERIFY(assertions.texts().at(2).startsWith(u"ASSERT in ")); // the packing
+    const QStringList texts = assertions.texts();
+    QCOMPARE(texts.size(), 3);
+    QVERIFY(texts.at(0).startsWith(u"ASSERT in ")); // the description
+    QVERIFY(texts.at(1).startsWith(u"ASSERT_X_RETURN_VALUE in "));
+    QVERIFY(texts.at(1).endsWith(u": No files to compress"));
+    QVERIFY(texts.at(2).startsWith(u"ASSERT in ")); // the packing
     QCOMPARE(treeOf(reports()), (QStringList{u"temp/"_qs, u"temp/report.xml/"_qs}));
+}
+
+void tst_ReportsOnDisk::constructor_temporaryFolderCannotBeMade_isReported()
+{
+    QVERIFY(QDir().rmdir(dumps()) && ReportFolders::write(dumps(), "in the way"));
+    QVERIFY(ReportFolders::write(logs() + u"/main.txt", "line"));
+    const AssertionReports assertions;
+    QVERIFY(!CZipCrashReport::isCrashDumpCreated(plainParser));
+    std::unique_ptr<CZipCrashReport> report = makeReport();
+    const QStringList texts = assertions.texts();
+    QCOMPARE(texts.size(), 5);
+    QVERIFY(texts.at(0).startsWith(u"ASSERT in ")); // the folder, for the description
+    QVERIFY(texts.at(1).startsWith(u"ASSERT in ")); // the description
+    QVERIFY(texts.at(2).startsWith(u"ASSERT in ")); // the folder, for the logs
+    QVERIFY(texts.at(3).startsWith(u"ASSERT_X_RETURN_VALUE in "));
+    QVERIFY(texts.at(3).endsWith(u": No files to compress"));
+    QVERIFY(texts.at(4).startsWith(u"ASSERT in ")); // the packing
+    QCOMPARE(treeOf(reports()), QStringList{u"temp"_qs});
+    QCOMPARE(ReportFolders::contentOf(dumps()), "in the way");
+    QCOMPARE(treeOf(logs()), QStringList{u"main.txt"_qs});
+
+    QVERIFY(QFile::remove(dumps()));
+    report->createCrashReport();
+    QCOMPARE(assertions.texts(), texts); // nothing more
+    QCOMPARE(entriesOf(zipFiles().value(0)).keys(), (QStringList{u"main.txt"_qs, u"report.xml"_qs}));
+}
+
+void tst_ReportsOnDisk::repack_temporaryFolderCannotBeMade_isReported()
+{
+    const std::unique_ptr<CZipCrashReport> report = makeReport();
+    const QString file = zipFiles().value(0);
+    const QByteArray archive = ReportFolders::contentOf(file);
+    QVERIFY(!archive.isEmpty());
+    QVERIFY(QDir().rmdir(dumps()) && ReportFolders::write(dumps(), "in the way"));
+    const AssertionReports assertions;
+    report->repack(u"e"_qs, u"new"_qs);
+    QCOMPARE(assertions.texts().size(), 1);
+    QVERIFY2(assertions.texts().constFirst().contains(u"create_directory"),
+             qPrintable(assertions.texts().constFirst()));
+    QCOMPARE(ReportFolders::contentOf(file), archive);
+    QCOMPARE(ReportFolders::contentOf(dumps()), "in the way");
 }
 
 void tst_ReportsOnDisk::constructor_relativeDataDirectory_isReported()

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "crashReport/ArchiveBytes.h"
 #include "crashReport/ReportFolders.h"
-#include "crashReport/StoredArchive.h"
 #include "support/AssertionReports.h"
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
@@ -25,7 +25,8 @@
 #include <utility>
 
 using namespace ZYX_zglv6;
-using StoredArchive::entriesOf;
+using TestSupport::entriesOf;
+using TestSupport::Files;
 
 namespace {
 
@@ -272,6 +273,25 @@ void tst_zipCrashReport::metaObject_hasTheSignalAndThePrivateSlot()
     QCOMPARE(answer.access(), QMetaMethod::Private);
 }
 
+void tst_zipCrashReport::withoutADataDirectory_constructorAndQuestionThrow()
+{
+    QProcess process; // where it was never set
+    process.start(QCoreApplication::applicationFilePath(), {u"--without-data-directory"_qs});
+    QVERIFY(process.waitForFinished(watchdogMs));
+    QCOMPARE(QString::fromLocal8Bit(process.readAllStandardOutput()).remove(u'\r'),
+             u"Data directory is not set\nData directory is not set\n"_qs);
+}
+
+void tst_zipCrashReport::repack_ofNothing_removesTheZipFile()
+{
+    CZipCrashReport report(u"P"_qs, u"e"_qs, u"c"_qs, false, plainParser, nullptr);
+    const QString file = ReportFolders::zipFiles().value(0);
+    QVERIFY(ReportFolders::write(file, "no archive"));
+    QVERIFY(QDir().mkpath(ReportFolders::dumps() + u"/report.xml")); // so that there is no description either
+    report.repack(u"e"_qs, u"c"_qs);
+    QVERIFY(!QFile::exists(file));
+}
+
 void tst_zipCrashReport::reportXml_hasTheTexts_data()
 {
     QTest::addColumn<QString>("product");
@@ -300,7 +320,7 @@ void tst_zipCrashReport::reportXml_hasTheTexts()
 
     const CZipCrashReport report(product, email, comments, false, plainParser, nullptr);
     QCOMPARE(ReportFolders::zipFiles().size(), 1);
-    const StoredArchive::Entries entries = entriesOf(ReportFolders::zipFiles().constFirst());
+    const Files entries = entriesOf(ReportFolders::zipFiles().constFirst());
     QCOMPARE(entries.keys(), QStringList{u"report.xml"_qs});
     QCOMPARE(entries.value(u"report.xml"_qs),
              reportXml(product.toUtf8(), QByteArray(), email.toUtf8(), comments.toUtf8()));
@@ -355,7 +375,7 @@ void tst_zipCrashReport::constructor_packsDumpLogsAndDescription()
 
     const CZipCrashReport report(u"P"_qs, u"e"_qs, u"c"_qs, false, plainParser, nullptr);
     QCOMPARE(ReportFolders::zipFiles().size(), 1);
-    const StoredArchive::Entries expected{
+    const Files expected{
         {u"1.dmp"_qs, dump},
         {u"2.dmp"_qs, "second"},
         {u"main.txt"_qs, "a line\r\n"},
@@ -456,25 +476,6 @@ void tst_zipCrashReport::constructor_targetOfACopyExists_keepsIt()
     QCOMPARE(assertions.texts(), QStringList());
 }
 
-void tst_zipCrashReport::withoutADataDirectory_constructorAndQuestionThrow()
-{
-    QProcess process; // where it was never set
-    process.start(QCoreApplication::applicationFilePath(), {u"--without-data-directory"_qs});
-    QVERIFY(process.waitForFinished(30'000));
-    QCOMPARE(QString::fromLocal8Bit(process.readAllStandardOutput()).remove(u'\r'),
-             u"Data directory is not set\nData directory is not set\n"_qs);
-}
-
-void tst_zipCrashReport::repack_ofNothing_removesTheZipFile()
-{
-    CZipCrashReport report(u"P"_qs, u"e"_qs, u"c"_qs, false, plainParser, nullptr);
-    const QString file = ReportFolders::zipFiles().value(0);
-    QVERIFY(ReportFolders::write(file, "no archive"));
-    QVERIFY(QDir().mkpath(ReportFolders::dumps() + u"/report.xml")); // so that there is no description either
-    report.repack(u"e"_qs, u"c"_qs);
-    QVERIFY(!QFile::exists(file));
-}
-
 void tst_zipCrashReport::constructor_subfolderOfTheLogs_staysBehind()
 {
     QVERIFY(ReportFolders::write(ReportFolders::logs() + u"/sub/old.txt", "line"));
@@ -492,7 +493,7 @@ void tst_zipCrashReport::constructor_dumpsInSubfolders_arePackedToo()
     QVERIFY(ReportFolders::write(ReportFolders::dumps() + u"/sub/deep/b.dmp", "two"));
     QVERIFY(QDir().mkpath(ReportFolders::dumps() + u"/bare"));
     const CZipCrashReport report(u"P"_qs, u"e"_qs, u"c"_qs, false, plainParser, nullptr);
-    const StoredArchive::Entries expected{
+    const Files expected{
         {u"report.xml"_qs, reportXml("P", "", "e", "c")},
         {u"sub/a.dmp"_qs, "one"},
         {u"sub/deep/b.dmp"_qs, "two"},
@@ -542,7 +543,7 @@ void tst_zipCrashReport::repack_replacesTheTextsAlone()
 
     report.repack(u"a&b@c.example"_qs, u"1 < 2\n\u00e4"_qs);
     QCOMPARE(ReportFolders::zipFiles(), files);
-    const StoredArchive::Entries expected{
+    const Files expected{
         {u"a.dmp"_qs, dump},
         {u"main.txt"_qs, "before"},
         {u"report.xml"_qs, reportXml("P", "", "a&b@c.example", "1 < 2\n\xc3\xa4")},
@@ -568,7 +569,7 @@ void tst_zipCrashReport::repack_twice_hasTheLastTexts()
     CZipCrashReport report(u"P"_qs, u"a rather long address"_qs, u"and comment"_qs, false, plainParser, nullptr);
     report.repack(u"first"_qs, u"first comment"_qs);
     report.repack(u""_qs, u"x"_qs);
-    const StoredArchive::Entries expected{
+    const Files expected{
         {u"a.dmp"_qs, "dump"},
         {u"report.xml"_qs, reportXml("P", "", "", "x")},
     };
@@ -581,8 +582,7 @@ void tst_zipCrashReport::repack_withoutContent_packsTheDescription_data()
     QTest::addColumn<QByteArray>("archive");
 
     QTest::newRow("zip file removed") << false << QByteArray();
-    QTest::newRow("archive without entries")
-        << true << QByteArray(StoredArchive::noEntries, sizeof(StoredArchive::noEntries));
+    QTest::newRow("archive without entries") << true << TestSupport::makeArchive({});
     QTest::newRow("empty file") << true << QByteArray();
     QTest::newRow("no archive") << true << QByteArray("no archive at all");
 }
@@ -602,7 +602,7 @@ void tst_zipCrashReport::repack_withoutContent_packsTheDescription()
     }
     report.repack(u"new"_qs, u"text"_qs);
     QCOMPARE(ReportFolders::zipFiles(), files);
-    const StoredArchive::Entries expected{{u"report.xml"_qs, reportXml("P", "", "new", "text")}};
+    const Files expected{{u"report.xml"_qs, reportXml("P", "", "new", "text")}};
     QCOMPARE(entriesOf(files.constFirst()), expected);
 }
 
@@ -613,7 +613,7 @@ void tst_zipCrashReport::repack_takesWhatWaitsInTheFolder()
     QVERIFY(ReportFolders::write(ReportFolders::dumps() + u"/a.dmp", "waiting"));
     QVERIFY(ReportFolders::write(ReportFolders::dumps() + u"/b.dmp", "new"));
     report.repack(u"e"_qs, u"c"_qs);
-    const StoredArchive::Entries expected{
+    const Files expected{
         {u"a.dmp"_qs, "packed"},
         {u"b.dmp"_qs, "new"},
         {u"report.xml"_qs, reportXml("P", "", "e", "c")},

@@ -9,7 +9,9 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
 #include <QtCore/QSettings>
@@ -26,6 +28,13 @@ QByteArray userIn(const Run &lightbox)
 {
     static const QRegularExpression form(u" user ([0-9a-f-]{36}), "_qs);
     return form.match(lightbox.step(8)).captured(1).toUtf8();
+}
+
+bool writeOldFile(const QString &path, const QDateTime &time)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write("no archive") > 0 && file.flush()
+        && file.setFileTime(time, QFileDevice::FileModificationTime);
 }
 
 qsizetype colorCount(const QImage &picture)
@@ -255,9 +264,13 @@ void tst_CrashSender::filesInFolders_areListed()
 void tst_CrashSender::withoutADump_showsTheNewestEarlierReport()
 {
     QVERIFY(QDir().mkpath(m_folder->crashFiles()));
-    for (const QString &name : {u"CrashReport_20010101000010.zip"_qs, u"CrashReport_20020101000010.zip"_qs,
-                                u"CrashReport_20011231235959.zip"_qs, u"other_2003.zip"_qs}) {
-        QVERIFY(writeFile(m_folder->crashFiles() + name, "no archive"));
+    const QDateTime now = QDateTime::currentDateTime();
+    const QMap<QString, qint64> ages{{u"CrashReport_20010101000010.zip"_qs, 20}, // in seconds
+                                     {u"CrashReport_20020101000010.zip"_qs, 10},
+                                     {u"CrashReport_20021027023000.zip"_qs, 30}, // by a clock that was set back later
+                                     {u"other_2003.zip"_qs, 0}};
+    for (auto age = ages.begin(); age != ages.end(); ++age) {
+        QVERIFY(writeOldFile(m_folder->crashFiles() + age.key(), now.addSecs(-age.value())));
     }
     const Run sender = m_folder->crashSender({u"--leave"_qs});
     QVERIFY2(sender.isClean(), qPrintable(sender.errors));

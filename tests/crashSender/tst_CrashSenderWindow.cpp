@@ -136,6 +136,7 @@ private Q_SLOTS:
     void preview_isLimited();
     void withoutATemporaryFolder_nothingIsUnpacked();
     void folders_areInTheNames();
+    void foldersInFolders_areInTheNames();
     void secondCrash_inTheSameSecond_isANewReport();
     void keys_typeAndSend();
     void tab_goesThroughTheWindow();
@@ -149,6 +150,7 @@ private Q_SLOTS:
     void silence_endsAtTheTimeLimit();
     void missingArchive_isTold();
     void textsThatCannotBeBroughtIn_areTold();
+    void reportThatHasLostAFile_isNotSent();
     void withoutAService_nothingIsSent();
     void editedTexts_areInTheCopy();
     void unchangedTexts_leaveTheArchiveAlone();
@@ -276,6 +278,18 @@ void tst_CrashSenderWindow::folders_areInTheNames()
     QCOMPARE(sender.find<QTreeWidget>(u"fileList"_qs)->topLevelItemCount(), 4);
     sender.select(u"threads/second.txt"_qs);
     QCOMPARE(sender.preview(), u"a thread"_qs);
+}
+
+void tst_CrashSenderWindow::foldersInFolders_areInTheNames()
+{
+    QVERIFY(m_folder->writeDump(u"threads/one/two/second.txt"_qs, "a thread"));
+    QVERIFY(m_folder->writeDump(u"threads/one/three/third.txt"_qs, "another"));
+    Sender sender;
+    QCOMPARE(sender.find<QTreeWidget>(u"fileList"_qs)->topLevelItemCount(), 5);
+    sender.select(u"threads/one/two/second.txt"_qs);
+    QCOMPARE(sender.preview(), u"a thread"_qs);
+    sender.select(u"threads/one/three/third.txt"_qs);
+    QCOMPARE(sender.preview(), u"another"_qs);
 }
 
 void tst_CrashSenderWindow::secondCrash_inTheSameSecond_isANewReport()
@@ -501,6 +515,20 @@ void tst_CrashSenderWindow::textsThatCannotBeBroughtIn_areTold()
     QVERIFY(!QFile::exists(sender.report.archive())); // not made anew, without the dump
     QVERIFY(!sender.window.saveCopy(m_sandbox.filePath(u"copy without texts.zip"_qs)));
     QCOMPARE(sender.status(), u"No copy was saved: e-mail and comment could not be brought into the report"_qs);
+}
+
+void tst_CrashSenderWindow::reportThatHasLostAFile_isNotSent()
+{
+    Sender sender;
+    QVERIFY(QDir().mkpath(m_folder->crashTempFiles() + u"any.dmp")); // where it would be unpacked
+    sender.email()->setText(u"a@b.example"_qs);
+    sender.window.send();
+    QVERIFY(!sender.delivery.isSending());
+    QVERIFY2(sender.status().startsWith(
+                 u"The report was not sent: e-mail and comment could not be brought into the report."),
+             qPrintable(sender.status()));
+    QVERIFY(QFile::exists(sender.report.archive()));
+    QVERIFY(!entriesOf(sender.report.archive()).contains(u"any.dmp"_qs));
 }
 
 void tst_CrashSenderWindow::withoutAService_nothingIsSent()

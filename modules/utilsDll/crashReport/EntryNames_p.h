@@ -17,7 +17,7 @@ bool isUtf8EntryName(const QByteArray &entry, const QString &relativePath);
 
 /*!
     Whether \a name, of an archive that anybody may have made, might lead out of the folder that it is put into; on
-    Windows also to a device.
+    Windows also to a device, or to a stream of another file.
 */
 bool leavesFolder(const QString &name);
 

@@ -32,9 +32,9 @@ UTILSDLL_EXPORT bool CompressDirAndClearContent(const QDir &dir, const QFileInfo
 
 /*!
     Unpacks \a zipFile below \a dir, over files of the same names; an empty \a password is none. Folders are made one
-    level deep; std::filesystem::filesystem_error tells of one that can't be made. An entry that can't be read, is a
-    link, has a name of more than 255 bytes or with a backslash, or might end outside of \a dir, ends the unpacking;
-    one whose file can't be made is passed over.
+    level deep; std::filesystem::filesystem_error tells of one that can't be made. An entry that can't be read or
+    written whole, is a link, has a name of more than 255 bytes or with a backslash, or might end outside of \a dir,
+    ends the unpacking; one whose file can't be made is passed over.
 
     The result is no verdict: false after a complete unpacking and after most failures, true only where the way to the
     next entry was lost. See whether the files are there.

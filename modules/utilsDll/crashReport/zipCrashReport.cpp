@@ -20,7 +20,6 @@
 #include <QtCore/QTextStream>
 
 #include <filesystem>
-#include <string>
 #include <utility>
 
 namespace ZYX_zglv6 {
@@ -39,13 +38,11 @@ QFileInfo newZipFile()
 template <typename Work>
 bool isDone(const Work &work)
 {
-    std::string failure;
     try {
         return work();
     } catch (const std::filesystem::filesystem_error &error) {
-        failure = error.what();
+        ASSERT_X_RETURN_VALUE(false, false, error.what());
     }
-    ASSERT_X_RETURN_VALUE(failure.empty(), false, failure.c_str());
     return false;
 }
 
@@ -145,7 +142,7 @@ void CZipCrashReport::createCrashReport()
             Qt::UniqueConnection);
     createXmlReport();
     const QDir folder(CStorageLocation::crashTempFilesPath());
-    folder.mkpath(u"."_qs);
+    ASSERT(folder.mkpath(u"."_qs));
     const QDir logs(CStorageLocation::loggerFilesPath());
     for (const QString &name : logs.entryList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
         const QString from = logs.absolutePath() + u'/' + name;
@@ -209,7 +206,7 @@ void CZipCrashReport::httpResponce()
 void CZipCrashReport::createXmlReport() const
 {
     const QString path = CStorageLocation::crashTempFilesPath() + QDir::separator() + u"report.xml";
-    QDir().mkpath(CStorageLocation::crashTempFilesPath());
+    ASSERT(QDir().mkpath(CStorageLocation::crashTempFilesPath()));
     qDebug() << path;
     QFile file(path);
     const bool isOpen = file.open(QIODevice::WriteOnly | QIODevice::Truncate);

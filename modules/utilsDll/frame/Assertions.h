@@ -28,7 +28,7 @@ UTILSDLL_EXPORT void reportFailedAssertion(const char *function, const char *for
         }                                                                                                              \
     } while (false)
 
-/*! Reports a false condition with \a text, a UTF-8 literal, and leaves the function. */
+/*! Reports a false condition with \a text, in UTF-8, and leaves the function. */
 #define ASSERT_X_RETURN(condition, text)                                                                               \
     do {                                                                                                               \
         if (!(condition)) {                                                                                            \
@@ -37,7 +37,7 @@ UTILSDLL_EXPORT void reportFailedAssertion(const char *function, const char *for
         }                                                                                                              \
     } while (false)
 
-/*! Reports a false condition with \a text, a UTF-8 literal, and returns \a value. */
+/*! Reports a false condition with \a text, in UTF-8, and returns \a value. */
 #define ASSERT_X_RETURN_VALUE(condition, value, text)                                                                  \
     do {                                                                                                               \
         if (!(condition)) {                                                                                            \

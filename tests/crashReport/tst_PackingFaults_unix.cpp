@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "crashReport/ArchiveBytes.h"
-#include "crashReport/ArchiveFaults_unix.h"
 #include "crashReport/ArchiveFiles.h"
+#include "crashReport/FaultRuns_unix.h"
 #include "support/AssertionReports.h"
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 #include "support/TestLog.h"
 
+#include "utilsDll/crashReport/ZipMod_p.h"
 #include "utilsDll/crashReport/compress.h"
 
 #include <QtCore/QDir>
@@ -17,18 +18,11 @@
 #include <QtTest/QTest>
 
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
-
-#include <sys/resource.h>
-#include <unistd.h>
 
 using namespace TestSupport;
 using ZYX_zglv6::CompressDir;
 using ZYX_zglv6::CompressDirAndClearContent;
-using ZYX_zglv6::DecompressFiles;
-
-Q_DECLARE_METATYPE(TestSupport::Call)
 
 namespace {
 
@@ -47,45 +41,19 @@ QStringList addingAll(const QStringList &texts, const QString &archive)
     return lines;
 }
 
-QString extracting(const QString &text)
-{
-    return u"ERROR ZYX_zglv6::`anonymous-namespace'::doExtractCurrentFile: "_qs + text;
-}
-
-/*! No file of this process gets larger, as on a disk that is full. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t size)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{size, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-    }
-
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_before{};
-};
-
 } // namespace
 
-/*! Disks that are full, files that vanish and other failures of the system in the middle of the work. */
-class tst_ArchiveFaults : public QObject
+/*! Packing on disks that are full, with files that vanish and other failures of the system in the middle of the work.
+ */
+class tst_PackingFaults_unix : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
 
+    void packing_readsInPiecesOfTheBuffer_data();
+    void packing_readsInPiecesOfTheBuffer();
     void packing_anyFailingCall_isToldAndLeavesNothingOpen_data();
     void packing_anyFailingCall_isToldAndLeavesNothingOpen();
     void packing_failingCall_isLogged_data();
@@ -105,14 +73,6 @@ private Q_SLOTS:
     void clearing_removesAFolderWithItsContent();
     void clearing_throwsWhereAnItemCannotBeRemoved();
     void clearing_happensAfterAFailedArchive();
-
-    void unpacking_anyFailingCall_isToldAndLeavesNothingOpen_data();
-    void unpacking_anyFailingCall_isToldAndLeavesNothingOpen();
-    void unpacking_onAFullDisk_ends();
-    void unpacking_failedWriting_isLogged();
-    void unpacking_folderMadeByAnother_isAFailure();
-    void unpacking_folderThatMayNotBeMade_throws();
-    void unpacking_fileThatMayNotBeMade_isSkipped();
 
 private:
     QString path(const QString &name) const
@@ -135,26 +95,43 @@ private:
         return CompressDirAndClearContent(path(u"in"_qs), QFileInfo(path(u"made.zip"_qs)));
     }
 
-    bool decompress() const
-    {
-        return DecompressFiles(QFileInfo(path(u"made.zip"_qs)), path(u"out"_qs), QString());
-    }
-
     Sandbox m_sandbox;
     std::unique_ptr<QTemporaryDir> m_folder;
     int m_filesBefore = 0; // that are open
     Files m_files{{u"a"_qs, bytesOf(40'000)}, {u"b"_qs, ""}, {u"c"_qs, "3"}, {u"sub/d"_qs, bytesOf(17'000)}};
 };
 
-void tst_ArchiveFaults::init()
+void tst_PackingFaults_unix::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     writeFiles(path(u"in"_qs), m_files);
-    QVERIFY(QDir(m_folder->path()).mkdir(u"out"_qs));
     m_filesBefore = openFileCount();
 }
 
-void tst_ArchiveFaults::packing_anyFailingCall_isToldAndLeavesNothingOpen_data()
+void tst_PackingFaults_unix::packing_readsInPiecesOfTheBuffer_data()
+{
+    QTest::addColumn<QByteArray>("password");
+    QTest::addColumn<int>("reads"); // of three pieces and of the end
+
+    QTest::newRow("without a password") << QByteArray() << 4;
+    QTest::newRow("with a password, for the sum too") << QByteArray("secret") << 8;
+}
+
+void tst_PackingFaults_unix::packing_readsInPiecesOfTheBuffer()
+{
+    QFETCH(const QByteArray, password);
+    QFETCH(const int, reads);
+    constexpr std::size_t buffer = 16'384;
+    writeFile(path(u"in/a"_qs), bytesOf(3 * buffer));
+    const Fault reading(path(u"in/a"_qs), Call::Read);
+    QVERIFY(ZYX_zglv6::ZipMod::addToZipFile(path(u"made.zip"_qs), false, path(u"in"_qs), {u"a"_qs}, -1, password));
+    if (!password.isEmpty() && archive().entries.isEmpty()) {
+        QSKIP("The installed minizip takes no passwords.");
+    }
+    QCOMPARE(reading.sizes(), QList<std::size_t>(reads, buffer));
+}
+
+void tst_PackingFaults_unix::packing_anyFailingCall_isToldAndLeavesNothingOpen_data()
 {
     QTest::addColumn<Call>("call");
     QTest::addColumn<int>("error");
@@ -164,35 +141,24 @@ void tst_ArchiveFaults::packing_anyFailingCall_isToldAndLeavesNothingOpen_data()
     QTest::newRow("pwrite") << Call::WriteAt << ENOSPC;
 }
 
-void tst_ArchiveFaults::packing_anyFailingCall_isToldAndLeavesNothingOpen()
+void tst_PackingFaults_unix::packing_anyFailingCall_isToldAndLeavesNothingOpen()
 {
     QFETCH(const Call, call);
     QFETCH(const int, error);
     RUN_IN_FRESH_PROCESS();
     const TestLog log(m_sandbox.filePath(u"data"_qs));
     QVERIFY(compress());
-    const int filesBefore = openFileCount();
-    bool hasStruck = true;
-    for (int nth = 1; hasStruck; ++nth) {
-        const qsizetype before = log.records().size();
-        bool isPacked = false;
-        {
-            const Fault fault(m_folder->path(), call, nth, error);
-            isPacked = compress();
-            hasStruck = fault.hasStruck();
-        }
-        QCOMPARE(openFileCount(), filesBefore);
-        const QStringList errors = log.records().mid(before).filter(QRegularExpression(u"^ERROR "_qs));
-        // Whoever finds nothing in the log has a whole archive.
-        const bool isWhole = isPacked && archive().isWhole && archive().entries.size() == m_files.size();
-        QVERIFY2(!errors.isEmpty() || isWhole, QByteArray::number(nth));
-        QVERIFY2(isPacked || !errors.isEmpty(), QByteArray::number(nth));
-        QVERIFY2(hasStruck || errors.isEmpty(), QByteArray::number(nth));
-        QVERIFY(nth > 1 || hasStruck);
-    }
+    runWithEachCallFailing(
+        m_folder->path(), call, error, log, [this] { return compress(); },
+        [this](const FaultRun &run) {
+            // Whoever finds nothing in the log has a whole archive.
+            const bool isWhole = run.result && archive().isWhole && archive().entries.size() == m_files.size();
+            QVERIFY2(!run.errors().isEmpty() || isWhole, QByteArray::number(run.nth));
+            QVERIFY2(run.result || !run.errors().isEmpty(), QByteArray::number(run.nth));
+        });
 }
 
-void tst_ArchiveFaults::packing_failingCall_isLogged_data()
+void tst_PackingFaults_unix::packing_failingCall_isLogged_data()
 {
     QTest::addColumn<Call>("call");
     QTest::addColumn<int>("nth");
@@ -208,7 +174,7 @@ void tst_ArchiveFaults::packing_failingCall_isLogged_data()
     QTest::newRow("opening the file") << Call::Open << 2 << true << QStringList(u"Error opening for reading: a"_qs);
 }
 
-void tst_ArchiveFaults::packing_failingCall_isLogged()
+void tst_PackingFaults_unix::packing_failingCall_isLogged()
 {
     QFETCH(const Call, call);
     QFETCH(const int, nth);
@@ -224,7 +190,7 @@ void tst_ArchiveFaults::packing_failingCall_isLogged()
     QTEST(isPacked, "result");
 }
 
-void tst_ArchiveFaults::packing_failureAroundAnEntry_isLogged_data()
+void tst_PackingFaults_unix::packing_failureAroundAnEntry_isLogged_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<QString>("error");
@@ -235,7 +201,7 @@ void tst_ArchiveFaults::packing_failureAroundAnEntry_isLogged_data()
     QTest::newRow("no room for the rest of the content") << buffered - header + 1 << u"Error closing zipfile: a"_qs;
 }
 
-void tst_ArchiveFaults::packing_failureAroundAnEntry_isLogged()
+void tst_PackingFaults_unix::packing_failureAroundAnEntry_isLogged()
 {
     QFETCH(const int, size);
     QFETCH(const QString, error);
@@ -252,14 +218,17 @@ void tst_ArchiveFaults::packing_failureAroundAnEntry_isLogged()
     QCOMPARE(openFileCount(), filesBefore);
 }
 
-void tst_ArchiveFaults::packing_onAFullDisk_isAFailure()
+void tst_PackingFaults_unix::packing_onAFullDisk_isAFailure()
 {
     RUN_IN_FRESH_PROCESS();
     QVERIFY(compress());
     const QByteArray whole = contentOf(path(u"made.zip"_qs));
     const int filesBefore = openFileCount();
-    // Each size around the headers, some within the contents.
-    for (qsizetype size = 0; size<whole.size(); size += size> 100 && size < whole.size() - 600 ? 397 : 1) {
+    const auto next = [&whole](qsizetype size) {
+        const bool isWithinContents = size > 100 && size < whole.size() - 600;
+        return size + (isWithinContents ? 397 : 1); // each one around the headers
+    };
+    for (qsizetype size = 0; size < whole.size(); size = next(size)) {
         QVERIFY(QFile::remove(path(u"made.zip"_qs)));
         bool isPacked = true;
         {
@@ -276,7 +245,7 @@ void tst_ArchiveFaults::packing_onAFullDisk_isAFailure()
     QVERIFY(contentOf(path(u"made.zip"_qs)) == whole);
 }
 
-void tst_ArchiveFaults::packing_ontoAFullDevice_isAFailure_data()
+void tst_PackingFaults_unix::packing_ontoAFullDevice_isAFailure_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<QStringList>("errors");
@@ -285,7 +254,7 @@ void tst_ArchiveFaults::packing_ontoAFullDevice_isAFailure_data()
     QTest::newRow("small") << 0 << QStringList(u"Error in closing: %1"_qs); // nothing is written before the end
 }
 
-void tst_ArchiveFaults::packing_ontoAFullDevice_isAFailure()
+void tst_PackingFaults_unix::packing_ontoAFullDevice_isAFailure()
 {
     QFETCH(const int, size);
     QFETCH(const QStringList, errors);
@@ -302,7 +271,7 @@ void tst_ArchiveFaults::packing_ontoAFullDevice_isAFailure()
     QCOMPARE(openFileCount(), filesBefore);
 }
 
-void tst_ArchiveFaults::packing_ofALargeFile_usesZip64_data()
+void tst_PackingFaults_unix::packing_ofALargeFile_usesZip64_data()
 {
     QTest::addColumn<qint64>("size");
     QTest::addColumn<bool>("isZip64");
@@ -312,7 +281,7 @@ void tst_ArchiveFaults::packing_ofALargeFile_usesZip64_data()
     QTest::newRow("more than 32 bits") << qint64(0x1'0000'0001) << true;
 }
 
-void tst_ArchiveFaults::packing_ofALargeFile_usesZip64()
+void tst_PackingFaults_unix::packing_ofALargeFile_usesZip64()
 {
     QFETCH(const qint64, size);
     QFETCH(const bool, isZip64);
@@ -327,7 +296,7 @@ void tst_ArchiveFaults::packing_ofALargeFile_usesZip64()
     QCOMPARE(archive().entries.first().local.extra.size(), isZip64 ? 20 : 0);
 }
 
-void tst_ArchiveFaults::packing_ofAFileThatVanished_endsEarlyAndIsTrue_data()
+void tst_PackingFaults_unix::packing_ofAFileThatVanished_endsEarlyAndIsTrue_data()
 {
     QTest::addColumn<QString>("vanishing");
     QTest::addColumn<QList<QByteArray>>("entries");
@@ -337,7 +306,7 @@ void tst_ArchiveFaults::packing_ofAFileThatVanished_endsEarlyAndIsTrue_data()
     QTest::newRow("with its folder") << u"sub/d"_qs << QList<QByteArray>{"a", "b", "c", "sub/d"};
 }
 
-void tst_ArchiveFaults::packing_ofAFileThatVanished_endsEarlyAndIsTrue()
+void tst_PackingFaults_unix::packing_ofAFileThatVanished_endsEarlyAndIsTrue()
 {
     QFETCH(const QString, vanishing);
     QFETCH(const QList<QByteArray>, entries);
@@ -358,7 +327,7 @@ void tst_ArchiveFaults::packing_ofAFileThatVanished_endsEarlyAndIsTrue()
     QCOMPARE(archive().entries.last().content, QByteArray());
 }
 
-void tst_ArchiveFaults::packing_ofAFileThatCannotBeRead_endsEarlyAndIsTrue()
+void tst_PackingFaults_unix::packing_ofAFileThatCannotBeRead_endsEarlyAndIsTrue()
 {
     RUN_IN_FRESH_PROCESS();
     const TestLog log(m_sandbox.filePath(u"data"_qs));
@@ -371,7 +340,7 @@ void tst_ArchiveFaults::packing_ofAFileThatCannotBeRead_endsEarlyAndIsTrue()
     QVERIFY(archive().entries.first().content == m_files.value(u"a"_qs));
 }
 
-void tst_ArchiveFaults::clearing_reportsEachItemFromTheFirstThatIsGone()
+void tst_PackingFaults_unix::clearing_reportsEachItemFromTheFirstThatIsGone()
 {
     RUN_IN_FRESH_PROCESS();
     const TestLog log(m_sandbox.filePath(u"data"_qs));
@@ -396,7 +365,7 @@ void tst_ArchiveFaults::clearing_reportsEachItemFromTheFirstThatIsGone()
     QCOMPARE(log.records().size(), 6);
 }
 
-void tst_ArchiveFaults::clearing_removesAFolderWithItsContent()
+void tst_PackingFaults_unix::clearing_removesAFolderWithItsContent()
 {
     const AssertionReports reports;
     const Fault fault(path(u"made.zip"_qs), Call::Close, 1, [this] {
@@ -410,7 +379,7 @@ void tst_ArchiveFaults::clearing_removesAFolderWithItsContent()
     QCOMPARE(reports.texts(), QStringList());
 }
 
-void tst_ArchiveFaults::clearing_throwsWhereAnItemCannotBeRemoved()
+void tst_PackingFaults_unix::clearing_throwsWhereAnItemCannotBeRemoved()
 {
     {
         const Fault fault(m_folder->path(), Call::Remove, 2, EPERM);
@@ -421,120 +390,12 @@ void tst_ArchiveFaults::clearing_throwsWhereAnItemCannotBeRemoved()
     QCOMPARE(openFileCount(), m_filesBefore);
 }
 
-void tst_ArchiveFaults::clearing_happensAfterAFailedArchive()
+void tst_PackingFaults_unix::clearing_happensAfterAFailedArchive()
 {
     const Fault fault(path(u"made.zip"_qs), Call::Close, 1, ENOSPC);
     QVERIFY(!compressAndClear());
     QVERIFY(filesBelow(path(u"in"_qs)).isEmpty());
 }
 
-void tst_ArchiveFaults::unpacking_anyFailingCall_isToldAndLeavesNothingOpen_data()
-{
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<int>("error");
-
-    QTest::newRow("open") << Call::Open << EACCES;
-    QTest::newRow("write") << Call::Write << ENOSPC;
-    QTest::newRow("pread") << Call::ReadAt << EIO;
-}
-
-void tst_ArchiveFaults::unpacking_anyFailingCall_isToldAndLeavesNothingOpen()
-{
-    QFETCH(const Call, call);
-    QFETCH(const int, error);
-    RUN_IN_FRESH_PROCESS();
-    const TestLog log(m_sandbox.filePath(u"data"_qs));
-    QVERIFY(compress());
-    const int filesBefore = openFileCount();
-    bool hasStruck = true;
-    for (int nth = 1; hasStruck; ++nth) {
-        QVERIFY(QDir(path(u"out"_qs)).removeRecursively());
-        const qsizetype before = log.records().size();
-        {
-            const Fault fault(m_folder->path(), call, nth, error);
-            decompress();
-            hasStruck = fault.hasStruck();
-        }
-        QCOMPARE(openFileCount(), filesBefore);
-        const QStringList lines = log.records().mid(before);
-        QVERIFY2(!lines.isEmpty() || filesBelow(path(u"out"_qs)) == m_files, QByteArray::number(nth));
-        QVERIFY2(hasStruck || lines.isEmpty(), qPrintable(QString::number(nth) + lines.join(u'\n')));
-        QVERIFY(nth > 1 || hasStruck);
-    }
-}
-
-void tst_ArchiveFaults::unpacking_onAFullDisk_ends()
-{
-    RUN_IN_FRESH_PROCESS();
-    QVERIFY(compress());
-    const int filesBefore = openFileCount();
-    for (const int size : {0, 1, 8191, 8192, 8193, 39'999}) {
-        QVERIFY(QDir(path(u"out"_qs)).removeRecursively());
-        {
-            const FileSizeLimit limit{rlim_t(size)};
-            QVERIFY(!decompress());
-        }
-        QVERIFY(filesBelow(path(u"out"_qs)) == Files({{u"a"_qs, m_files.value(u"a"_qs).left(size)}}));
-        QCOMPARE(openFileCount(), filesBefore);
-    }
-    const FileSizeLimit limit{40'000};
-    QVERIFY(!decompress());
-    QVERIFY(filesBelow(path(u"out"_qs)) == m_files);
-}
-
-void tst_ArchiveFaults::unpacking_failedWriting_isLogged()
-{
-    RUN_IN_FRESH_PROCESS();
-    const TestLog log(m_sandbox.filePath(u"data"_qs));
-    writeFile(path(u"made.zip"_qs), makeArchive({{"a", "1"}, {"sub/b", bytesOf(20'000)}, {"c", "3"}}));
-    {
-        const Fault fault(m_folder->path(), Call::Write, 3, ENOSPC); // the second piece of the second entry
-        QVERIFY(!decompress());
-        QVERIFY(fault.hasStruck());
-    }
-    QCOMPARE(log.records(), QStringList(extracting(u"Error in writing extracted file: sub/b"_qs)));
-    QVERIFY(filesBelow(path(u"out"_qs)) == Files({{u"a"_qs, "1"}, {u"sub/b"_qs, bytesOf(20'000).left(8192)}}));
-}
-
-void tst_ArchiveFaults::unpacking_folderMadeByAnother_isAFailure()
-{
-    RUN_IN_FRESH_PROCESS();
-    const TestLog log(m_sandbox.filePath(u"data"_qs));
-    const int filesBefore = openFileCount();
-    writeFile(path(u"made.zip"_qs), makeArchive({{"a", "1"}, {"sub/b", "2"}, {"c", "3"}}));
-    {
-        const Fault fault(m_folder->path(), Call::MakeFolder, 1, [this] { QDir(path(u"out"_qs)).mkdir(u"sub"_qs); });
-        QVERIFY(!decompress());
-        QVERIFY(fault.hasStruck());
-    }
-    QCOMPARE(log.records(), QStringList(extracting(u"Cannot create directory: "_qs + path(u"out/sub"_qs))));
-    QVERIFY(filesBelow(path(u"out"_qs)) == Files({{u"a"_qs, "1"}}));
-    QCOMPARE(openFileCount(), filesBefore);
-}
-
-void tst_ArchiveFaults::unpacking_folderThatMayNotBeMade_throws()
-{
-    writeFile(path(u"made.zip"_qs), makeArchive({{"sub/b", "2"}, {"c", "3"}}));
-    {
-        const Fault fault(m_folder->path(), Call::MakeFolder, 1, EACCES);
-        QVERIFY_THROWS_EXCEPTION(std::filesystem::filesystem_error, decompress());
-    }
-    QVERIFY(filesBelow(path(u"out"_qs)).isEmpty());
-    QCOMPARE(openFileCount(), m_filesBefore);
-}
-
-void tst_ArchiveFaults::unpacking_fileThatMayNotBeMade_isSkipped()
-{
-    RUN_IN_FRESH_PROCESS();
-    const TestLog log(m_sandbox.filePath(u"data"_qs));
-    writeFile(path(u"made.zip"_qs), makeArchive({{"a", "1"}, {"sub/b", "2"}, {"c", "3"}}));
-    {
-        const Fault fault(path(u"out"_qs), Call::Open, 2, EACCES);
-        QVERIFY(!decompress());
-    }
-    QCOMPARE(log.records(), QStringList(extracting(u"Error opening file: sub/b"_qs)));
-    QVERIFY(filesBelow(path(u"out"_qs)) == Files({{u"a"_qs, "1"}, {u"c"_qs, "3"}}));
-}
-
-QTEST_GUILESS_MAIN(tst_ArchiveFaults)
-#include "tst_ArchiveFaults.moc"
+QTEST_GUILESS_MAIN(tst_PackingFaults_unix)
+#include "tst_PackingFaults_unix.moc"
