@@ -35,7 +35,8 @@ ROOMS = {
 
 # Headers that rooms without an arrow to them may include: one for all that export something, and one for a single room.
 FOR_EXPORT = "utilsDll/frame/Export.h"
-SINGLE_HEADERS = {("utilsDll/actions", "utilsDll/dialogs/SettingsPushButton.h")}
+SINGLE_HEADERS = {("utilsDll/actions", "utilsDll/dialogs/SettingsPushButton.h"),
+                  ("hostExchange", "utilsDll/frame/PluginKeys.h")}
 
 # The one source in which two rooms meet against the order. An entry that is no longer needed fails as well.
 MEETINGS = {("utilsDll/settings/PreferencesFile.cpp", "storageLocation/storageLocation.h")}
@@ -53,7 +54,7 @@ LIBRARIES_OF_ROOM = {
 SYSTEM_CONDITION = re.compile(r"\b(_WIN32|_WIN64|WIN32|WIN64|Q_OS_\w+|__linux\w*|__unix\w*|__APPLE__|__MINGW\w+|"
                               r"__CYGWIN__|__FreeBSD__|_MSC_VER|__GNUC__|__clang__|Q_CC_\w+)\b")
 ALLOWED_CONDITIONS = {("utilsDll/frame/FunctionName.h", "_MSC_VER"), ("utilsDll/frame/FunctionName.h", "__clang__"),
-                      ("utilsDll/frame/Export.h", "_MSC_VER")}
+                      ("utilsDll/frame/Export.h", "_MSC_VER"), ("utilsDll/frame/Export.h", "_WIN32")}
 
 
 def room_of(path):

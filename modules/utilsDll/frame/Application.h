@@ -4,6 +4,8 @@
 
 #include "utilsDll/frame/Export.h"
 
+#include <QtCore/qglobal.h>
+
 class QWidget;
 
 namespace ZYX_zglv6 {

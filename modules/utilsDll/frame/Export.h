@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtCore/qglobal.h>
-
-/*! Marks what the library promises to its hosts; everything without it stays inside. */
-#ifdef UTILSDLL_BUILD
-#define UTILSDLL_EXPORT Q_DECL_EXPORT
+/*!
+    Marks what the library promises to its hosts; everything without it stays inside. Without Qt, because the exchange
+    with plug-ins is. Who compiles sources of the library into a program of its own defines UTILSDLL_BUILD.
+*/
+#if !defined(_WIN32)
+#define UTILSDLL_EXPORT __attribute__((visibility("default")))
+#elif defined(UTILSDLL_BUILD)
+#define UTILSDLL_EXPORT __declspec(dllexport)
 #else
-#define UTILSDLL_EXPORT Q_DECL_IMPORT
+#define UTILSDLL_EXPORT __declspec(dllimport)
 #endif
 
 /*!
