@@ -9,14 +9,15 @@ export CCACHE_BASEDIR="$PWD"
 
 build_packages=(
     cmake ninja-build ccache g++ pkg-config
-    qt6-base-dev qt6-base-dev-tools libgl-dev libopengl-dev liblog4cplus-dev libminizip-dev zlib1g-dev
-    libcpp-httplib-dev libqt6sql6-sqlite fonts-dejavu-core
+    qt6-base-dev qt6-base-dev-tools qt6-5compat-dev libgl-dev libopengl-dev liblog4cplus-dev libminizip-dev
+    zlib1g-dev libcpp-httplib-dev libqt6sql6-sqlite fonts-dejavu-core
 )
 test_packages=(
     clang clang-format-14 libclang-rt-14-dev python3 python3-clang-14 binutils
     xvfb xauth xdotool x11-utils zenity
     libxml2-utils openssl python3-spyne python3-zeep python3-suds gsoap libgsoap-dev libsoap-lite-perl php-cli php-soap
     zip unzip libzip-dev chromium chromium-driver python3-selenium
+    pkexec dbus-daemon colord libglib2.0-bin gvfs gvfs-daemons
 )
 run_packages=(python3-spyne)
 bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev zip unzip libzip-dev)

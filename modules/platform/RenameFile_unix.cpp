@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "platform/RenameFile.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace ZyxPlatform {
+
+namespace {
+
+/*! For file systems that can't do both in one step. A folder has no second name, so there the step before may be late.
+ */
+bool renameByLink(const char *from, const char *to)
+{
+    if (linkat(AT_FDCWD, from, AT_FDCWD, to, 0) == 0) {
+        return unlink(from) == 0;
+    }
+    return errno == EPERM && faccessat(AT_FDCWD, to, F_OK, AT_SYMLINK_NOFOLLOW) != 0 && std::rename(from, to) == 0;
+}
+
+/*! A link would become a file: it stays, as a folder does. */
+bool moveToOtherVolume(const QString &from, const QString &to)
+{
+    const QFileInfo file(from);
+    if (!file.isFile() || file.isSymLink() || !QFile::copy(from, to)) {
+        return false;
+    }
+    if (!QFile::remove(from)) {
+        QFile::remove(to);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool renameFile(const QString &from, const QString &to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0) {
+        return true;
+    }
+    if (errno == EXDEV) {
+        return moveToOtherVolume(from, to);
+    }
+    const bool isUnknown = errno == EINVAL || errno == ENOSYS;
+    return isUnknown && renameByLink(source.constData(), target.constData());
+}
+
+} // namespace ZyxPlatform

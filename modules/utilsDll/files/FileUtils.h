@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "utilsDll/frame/Export.h"
+
+#include <QtCore/QString>
+
+#include <string>
+
+class QDir;
+class QFileInfo;
+class QSize;
+
+/*
+    What hosts do with the names and files of photographs. Nothing here throws or logs, keeps state or caches; each
+    function may be called from any thread, except sizeToString() and GetIccProfileFilePathFromSystem(), which ask the
+    screen and belong to the main thread.
+*/
+namespace ZYX_zglv6 {
+
+namespace FileManagement {
+
+enum CompareCondition {
+    CompareFullPath = 0, // the cleaned path
+    CompareFileName = 1, // the name with its extension
+    CompareBaseName = 2 // the name without its last extension
+};
+
+enum ErrorCodes { FileOperationSucceeded = 0, FileOperationFailed = 2 };
+
+} // namespace FileManagement
+
+/*!
+    Whether \a name can be the name of a file by the rules of Windows, on any system; with \a isPath a path may be in
+    front of it.
+
+    Wrong are: no name, 32,767 characters or more, more than 260 between two separators, ".." anywhere, characters that
+    Windows forbids, and a device's name such as "NUL" as the whole name or the end of the path. A device's name with an
+    extension passes, and so does one in the middle of a path.
+*/
+UTILSDLL_EXPORT bool validateFileName(const QString &name, bool isPath);
+
+/*! A key to compare paths by, in native separators and lower case; no path to open. */
+UTILSDLL_EXPORT QString normalizedFilePath(const QString &path);
+
+/*! Without regard to case. A \a condition of no name compares nothing and gives true. */
+UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QFileInfo &a, const QFileInfo &b,
+                                           FileManagement::CompareCondition condition);
+UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QString &a, const QString &b,
+                                           FileManagement::CompareCondition condition);
+
+/*!
+    Copies a file, or a folder with what is below it into the folder \a target, which is made if it is missing. Hidden
+    and system entries are left out; links are copied as what they lead to.
+
+    False: something could not be copied, or is there already. That ends the copy, and what was copied stays. A folder
+    is not copied into itself.
+*/
+[[nodiscard]] UTILSDLL_EXPORT bool copyRecursively(const QString &source, const QString &target);
+
+/*!
+    Removes all files below \a dir, hidden ones too. Folders stay, emptied; a link is removed, not what it leads to.
+
+    The result is that of the last entry, folders first: a file that can't be removed, and also a folder that is empty
+    already, ends the walk with false, and what comes after it stays.
+*/
+[[nodiscard]] UTILSDLL_EXPORT bool removeDirectoryContent(const QDir &dir);
+
+/*! Also for folders. False if there is something at \a newPath: it is never replaced. */
+[[nodiscard]] UTILSDLL_EXPORT bool renameFile(const QString &oldPath, const QString &newPath);
+
+/*!
+    The entry after or before \a path in its folder, by name and without regard to case, for stepping through a folder:
+    files of any type, hidden ones and folders. Empty at either end, and for a path that is not there.
+
+    Lists the whole folder at each call.
+*/
+UTILSDLL_EXPORT QString getNextFilePath(const QString &path);
+UTILSDLL_EXPORT QString getPreviouseFilePath(const QString &path);
+
+/*! Moves a file or folder to the recycle bin, without asking. */
+[[nodiscard]] UTILSDLL_EXPORT FileManagement::ErrorCodes moveFileToTrash(const QString &path);
+
+/*! Bytes that the user may still write on the volume of \a path; 0 if it is not there. On Windows for Latin-1 paths. */
+UTILSDLL_EXPORT long long availableDiskSpace(const QString &path);
+
+/*! \a size bytes as "1024B", "1.0KB" or "1.0MB", with the translated unit. */
+UTILSDLL_EXPORT QString fileSizeToString(const long long &size);
+
+/*!
+    The \a size of an image in pixels as "640 x 480 px", or in inches, centimetres or millimetres at the resolution of
+    the primary screen, as "imageSizeUnits" in the settings says (0 to 3).
+*/
+UTILSDLL_EXPORT QString sizeToString(const QSize &size);
+
+/*! Path, in UTF-8, of the colour profile of the monitor under the main window, else of the primary one; empty for none.
+ */
+UTILSDLL_EXPORT std::string GetIccProfileFilePathFromSystem();
+
+} // namespace ZYX_zglv6
