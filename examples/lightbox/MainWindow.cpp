@@ -6,12 +6,14 @@
 #include "PhotoService.h"
 #include "PhotoView.h"
 #include "SettingsPanel.h"
+#include "UnitMenu.h"
 
 #include "common/Report.h"
 
 #include "utilsDll/actions/ActionManager.h"
 #include "utilsDll/dialogs/SettingsPushButton.h"
 #include "utilsDll/eventLoop/OperationCompletionWaiter.h"
+#include "utilsDll/files/FileUtils.h"
 #include "utilsDll/frame/LoggerInterface.h"
 #include "utilsDll/frame/SharedConstants.h"
 #include "utilsDll/settings/Settings.h"
@@ -45,6 +47,7 @@ CActionManager &gate()
 CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
     : QMainWindow(parent)
     , m_photos(photos)
+    , m_files(this)
     , m_view(new CPhotoView)
     , m_panel(new CSettingsPanel)
     , m_loadTimeLimit(patienceMs)
@@ -80,6 +83,8 @@ void CMainWindow::addPhotographMenu()
     m_next = addCommand(menu, tr("&Next"), Qt::Key_Right, "showNext");
     addCommand(menu, tr("&Previous"), Qt::Key_Left, "showPrevious");
     addCommand(menu, tr("&Ask the service"), Qt::Key_D, "askService");
+    addCommand(menu, tr("Save a &copy..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S, "saveCopy");
+    addCommand(menu, tr("Move to the &trash..."), QKeySequence::Delete, "moveToTrash");
     // Leaving is possible at any time.
     QAction *quit = menu->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -91,6 +96,9 @@ void CMainWindow::addViewMenu()
     QMenu *menu = menuBar()->addMenu(tr("&View"));
     addSwitch(menu, tr("&Fill the window"), Qt::Key_F, false, "setFilling");
     addSwitch(menu, tr("&Settings"), Qt::Key_S, true, "setPanelShown");
+    auto *units = new CUnitMenu(menu);
+    menu->addMenu(units);
+    connect(units, &CUnitMenu::unitChanged, this, &CMainWindow::describeCurrent);
 }
 
 void CMainWindow::registerPanel()
@@ -162,9 +170,19 @@ QAction *CMainWindow::nextAction() const
     return m_next;
 }
 
+QString CMainWindow::currentPath() const
+{
+    return m_photos.current();
+}
+
 QString CMainWindow::currentName() const
 {
     return QFileInfo(m_photos.current()).fileName();
+}
+
+QSize CMainWindow::currentSize() const
+{
+    return m_currentSize;
 }
 
 QString CMainWindow::statusText() const
@@ -189,11 +207,40 @@ void CMainWindow::open()
     gate().blockActions(); // no remembered command shall come while the dialog is open
     const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
     const QString path
-        = QFileDialog::getOpenFileName(this, tr("Open a photograph"), QFileInfo(m_photos.current()).absolutePath(),
+        = QFileDialog::getOpenFileName(this, tr("Open a photograph"), m_photos.folder(),
                                        tr("Photographs (%1)").arg(imageFilter) + u";;" + tr("All files (*)"));
     if (!path.isEmpty()) {
         m_photos = CPhotoList(path);
         showCurrent();
+    }
+}
+
+void CMainWindow::moveToTrash()
+{
+    if (m_photos.current().isEmpty()) {
+        return;
+    }
+    gate().blockActions(); // as while a photograph is chosen
+    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    const CPhotoFiles::Outcome outcome = m_files.moveToTrash(m_photos.current());
+    if (outcome.isDone) {
+        m_photos.leaveCurrent();
+        showCurrent();
+    } else if (!outcome.text.isEmpty()) {
+        statusBar()->showMessage(outcome.text);
+    }
+}
+
+void CMainWindow::saveCopy()
+{
+    if (m_photos.current().isEmpty()) {
+        return;
+    }
+    gate().blockActions();
+    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    const CPhotoFiles::Outcome outcome = m_files.saveCopy(m_photos.current());
+    if (!outcome.text.isEmpty()) {
+        statusBar()->showMessage(outcome.text);
     }
 }
 
@@ -242,7 +289,9 @@ void CMainWindow::setFramed(bool isFramed)
 
 void CMainWindow::showCurrent()
 {
-    if (m_photos.count() == 0) {
+    m_currentSize = QSize(); // not known before it is loaded
+    if (m_photos.current().isEmpty()) {
+        m_view->showPhoto(QImage());
         statusBar()->showMessage(tr("No photographs in this folder"));
     } else {
         loadCurrent();
@@ -255,7 +304,6 @@ void CMainWindow::loadCurrent()
 {
     gate().blockActions();
     const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    m_currentSize = QSize(); // not known before it is loaded
     statusBar()->showMessage(tr("Loading %1").arg(currentName()));
 
     CPhotoLoader &loader = addLoader();
@@ -290,7 +338,7 @@ void CMainWindow::showLoaded(const CPhotoLoader &loader)
     m_view->showPhoto(loader.image());
     m_currentSize = loader.originalSize();
     if (!loader.image().isNull()) {
-        statusBar()->showMessage(describeCurrent(loader));
+        describeCurrent();
         return;
     }
     ZYX_LOG('E', m_photos.current() + u": " + loader.error());
@@ -298,10 +346,13 @@ void CMainWindow::showLoaded(const CPhotoLoader &loader)
     m_lastResort.ShowUnsupportedImageDialog();
 }
 
-QString CMainWindow::describeCurrent(const CPhotoLoader &loader) const
+void CMainWindow::describeCurrent()
 {
-    const QSize size = loader.originalSize();
-    return tr("%1 of %2: %3, %4 x %5")
-        .arg(QString::number(m_photos.position() + 1), QString::number(m_photos.count()), currentName(),
-             QString::number(size.width()), QString::number(size.height()));
+    if (m_currentSize.isEmpty()) {
+        return; // what is wrong with it stays to be read
+    }
+    statusBar()->showMessage(tr("%1 of %2: %3, %4, %5")
+                                 .arg(QString::number(m_photos.position() + 1), QString::number(m_photos.count()),
+                                      currentName(), sizeToString(m_currentSize),
+                                      fileSizeToString(QFileInfo(m_photos.current()).size())));
 }

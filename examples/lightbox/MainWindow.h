@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "PhotoFiles.h"
 #include "PhotoList.h"
 
 #include "utilsDll/frame/ErrStrings.h"
@@ -45,7 +46,11 @@ public:
     QThreadPool &pool();
     CSettingsPanel &panel() const;
     QAction *nextAction() const;
+    /*! Empty, as its name, if there is none. */
+    QString currentPath() const;
     QString currentName() const;
+    /*! In pixels of the original; empty if it is not shown. */
+    QSize currentSize() const;
     QString statusText() const;
 
 Q_SIGNALS:
@@ -61,6 +66,8 @@ public Q_SLOTS:
     void showNext();
     void showPrevious();
     void open();
+    void moveToTrash();
+    void saveCopy();
     void askService();
     void setFilling(bool isFilling);
     void setPanelShown(bool isShown);
@@ -81,14 +88,15 @@ private:
     void loadCurrent();
     CPhotoLoader &addLoader();
     void showLoaded(const CPhotoLoader &loader);
-    QString describeCurrent(const CPhotoLoader &loader) const;
+    void describeCurrent();
     void storePanel();
 
     CPhotoList m_photos;
+    CPhotoFiles m_files;
     CPhotoView *m_view;
     CSettingsPanel *m_panel;
     QAction *m_next = nullptr;
-    QSize m_currentSize; // of the original
+    QSize m_currentSize;
     QUrl m_service;
     int m_loadTimeLimit;
     std::vector<std::unique_ptr<CPhotoLoader>> m_loaders; // of this photograph, and of those given up that still run

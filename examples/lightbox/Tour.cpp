@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
+#include "FilesTour.h"
 #include "MainWindow.h"
 #include "PhotoService.h"
 #include "SettingsPanel.h"
@@ -119,6 +120,7 @@ void CTour::commandCarriedOut()
                   QString::number(m_sinceLoading.elapsed()), stateOf(m_window.panel().framed())));
     loadingWithoutPatience();
     questions();
+    files();
     crash();
     Q_EMIT finished(); // keep last
 }
@@ -160,6 +162,12 @@ void CTour::questions()
     printLine(16, QLatin1StringView("refused"), CPhotoService(nowhere).describe(m_window.currentName(), QSize(1, 1)));
 }
 
+void CTour::files()
+{
+    printLine(17, QLatin1StringView("files"),
+              tourFiles(m_window.currentPath(), m_window.currentSize(), m_options.workFolder));
+}
+
 /*! Another host like this one dies. It logs to its standard output: this one's log file is open. */
 void CTour::crash()
 {
@@ -171,7 +179,7 @@ void CTour::crash()
                 m_options.photos});
     const qint64 process = host.processId();
     const bool isOver = host.waitForFinished(crashPatienceMs);
-    printLine(17, QLatin1StringView("crash"),
+    printLine(18, QLatin1StringView("crash"),
               isOver ? u"another lightbox %1; it left %2"_qs.arg(deathOf(host), dumpOf(process))
                      : u"another lightbox did not crash: %1"_qs.arg(host.errorString()));
 }

@@ -11,7 +11,8 @@ class CMainWindow;
 
 /*!
     Plays a user who gives commands at good and at bad moments, and prints a line for each thing that the gate for
-    commands does with them. Also shows a loading that takes too long, what a service answers, and what a crash leaves.
+    commands does with them. Also shows a loading that takes too long, what a service answers, what can be done
+    with files, and what a crash leaves.
 */
 class CTour final : public QObject
 {
@@ -33,6 +34,7 @@ private:
     void commandCarriedOut();
     void loadingWithoutPatience();
     void questions();
+    void files();
     void crash();
 
     CMainWindow &m_window;

@@ -62,6 +62,6 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    printLine(18, QLatin1StringView("left"), u"with %1"_qs.arg(result));
+    printLine(19, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }

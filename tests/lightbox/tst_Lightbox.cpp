@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "support/Sandbox.h"
 
+#include "utilsDll/files/FileUtils.h"
 #include "utilsDll/frame/SharedConstants.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSettings>
@@ -48,6 +50,8 @@ private Q_SLOTS:
     void consoleLog_goesToTheStandardOutput();
     void snapshot_showsThePhotograph();
     void tour_showsWhatTheGateDoesWithCommands();
+    void tour_showsWhatCanBeDoneWithFiles();
+    void tourOfANameThatIsNotValid_copiesUnderAnother();
     void secondTour_findsThePanelAsTheFirstLeftIt();
     void tourWithAService_showsAnswerFaultAndRefusal();
     void snapshotOfTheTour_showsTheFrameAndThePanel();
@@ -102,7 +106,7 @@ void tst_Lightbox::start_printsOneLineForEachStep()
 {
     const Run first = run({});
     QVERIFY2(first.isClean, qPrintable(first.errors));
-    QVERIFY2(first.step(1).contains(u" 6.4.0.314; embedded files in place"), qPrintable(first.step(1)));
+    QVERIFY2(first.step(1).contains(u" " LIGHTBOX_VERSION "; embedded files in place"), qPrintable(first.step(1)));
     QVERIFY(first.step(2).endsWith(QDir::toNativeSeparators(m_workFolder + u"/Preferences.ini")));
     QVERIFY2(first.step(3).contains(u"data in "_qs + dataFolder()), qPrintable(first.step(3)));
     QVERIFY(first.step(4).endsWith(u"in the system store"));
@@ -111,7 +115,7 @@ void tst_Lightbox::start_printsOneLineForEachStep()
     QVERIFY(!first.step(7).endsWith(u" 0x0"));
     QVERIFY2(first.step(8).contains(u"the first, last mode \"\", user "), qPrintable(first.step(8)));
     QVERIFY(first.step(9).endsWith(u" no state stored yet"));
-    QVERIFY(first.step(18).endsWith(u" with 0"));
+    QVERIFY(first.step(19).endsWith(u" with 0"));
     QCOMPARE(first.lines.size(), 11); // the logger has a line of its own
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }
@@ -153,7 +157,8 @@ void tst_Lightbox::consoleLog_goesToTheStandardOutput()
 {
     const Run host = run({u"--console-log"_qs});
     QVERIFY2(host.isClean, qPrintable(host.errors));
-    QCOMPARE(host.lines.filter(u"ZYX_zglv6::initLogger: Zyx Grainlab 6 Version: 6.4.0.314"_qs).size(), 1);
+    QCOMPARE(
+        host.lines.filter(QStringLiteral("ZYX_zglv6::initLogger: Zyx Grainlab 6 Version: " PRODUCT_VERSION)).size(), 1);
     QVERIFY(!QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }
 
@@ -188,8 +193,40 @@ void tst_Lightbox::tour_showsWhatTheGateDoesWithCommands()
     const int delayMs = host.step(12).section(u' ', -8, -8).toInt();
     QVERIFY2(delayMs >= 900, qPrintable(host.step(12))); // 1000, with a coarse timer
     QVERIFY2(host.step(13).contains(u"with 50 ms: \"lighthouse.jpg takes too long\""), qPrintable(host.step(13)));
-    QVERIFY2(host.step(13).endsWith(u"without a limit: \"1 of 2: lighthouse.jpg, 1067 x 1600\""),
+    QVERIFY2(host.step(13).endsWith(u"without a limit: \"1 of 2: lighthouse.jpg, 1067 x 1600 px, %1\""_qs.arg(
+                 fileSizeToString(QFileInfo(QStringLiteral(LIGHTBOX_SAMPLES "/lighthouse.jpg")).size()))),
              qPrintable(host.step(13)));
+}
+
+void tst_Lightbox::tour_showsWhatCanBeDoneWithFiles()
+{
+    const Run host = run({u"--tour"_qs});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    const QString sizes = u"1067 x 1600 px, "_qs
+        + fileSizeToString(QFileInfo(QStringLiteral(LIGHTBOX_SAMPLES "/lighthouse.jpg")).size());
+    QCOMPARE(host.step(17),
+             u"17 files       \"lighthouse copy.jpg\", "_qs + sizes
+                 + u"; next \"lighthouse.jpg\", then nothing, back \"lighthouse copy.jpg\"; valid \"NUL.jpg\", "
+                   "not valid \"NUL\", not valid \"a:b.jpg\"; emptied and removed");
+    QCOMPARE(QDir(m_workFolder).entryList({u"files-*"_qs}, QDir::AllEntries | QDir::Hidden), QStringList());
+    QCOMPARE(QDir(m_workFolder).entryList({u"*.jpg"_qs}), QStringList());
+    QVERIFY(!QFile::exists(m_workFolder + u"/share/Trash"));
+    QCOMPARE(QDir(QStringLiteral(LIGHTBOX_SAMPLES)).entryList(QDir::Files),
+             (QStringList{u"lighthouse.jpg"_qs, u"mountain-lake.jpg"_qs}));
+}
+
+void tst_Lightbox::tourOfANameThatIsNotValid_copiesUnderAnother()
+{
+    const QString folder = m_sandbox.filePath(u"odd"_qs);
+    QVERIFY(QDir().mkpath(folder));
+    if (!QFile::copy(QStringLiteral(LIGHTBOX_SAMPLES "/lighthouse.jpg"), folder + u"/a:b.jpg")
+        || !QFile::exists(folder + u"/a:b.jpg")) {
+        QSKIP("No file can have such a name here.");
+    }
+    const Run host = run({u"--tour"_qs, folder});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QVERIFY2(host.step(17).startsWith(u"17 files       \"photograph copy.jpg\", "), qPrintable(host.step(17)));
+    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList(u"a:b.jpg"_qs));
 }
 
 void tst_Lightbox::secondTour_findsThePanelAsTheFirstLeftIt()
