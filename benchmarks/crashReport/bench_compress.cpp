@@ -5,6 +5,7 @@
 // files are in the system's cache. CPU time is that of this process and of the programs; the peak of the memory is the
 // one of a process that does it once and nothing else.
 
+#include "PeakMemory.h"
 #include "PlainCopies.h"
 #include "TestFolder.h"
 
@@ -26,8 +27,9 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <chrono>
-#include <cstdio>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -109,38 +111,11 @@ double cpuSeconds()
     return cpuSecondsOf(RUSAGE_SELF) + cpuSecondsOf(RUSAGE_CHILDREN);
 }
 
-/*! The most memory that this process has had so far, in MiB. */
-double peakOfThisProcess()
+bool doOnce(const QByteArray &name, const QString &folder)
 {
-    QFile status(u"/proc/self/status"_qs);
-    if (!status.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("VmHWM:") + 6, 20).trimmed().split(' ').front().toDouble() / 1024;
-}
-
-/*! What the work takes beyond a process that is about to do it, in MiB, measured in a process of its own. */
-double peakOf(const Candidate &candidate, const QString &folder)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), {u"--peak"_qs, QLatin1StringView(candidate.name), folder});
-    process.waitForFinished(-1);
-    return process.readAllStandardOutput().toDouble();
-}
-
-int printPeak(const QByteArray &name, const QString &folder)
-{
-    const TestFolder testFolder(folder);
-    const double before = peakOfThisProcess();
-    for (const Candidate &candidate : candidates) {
-        if (name == candidate.name && candidate.work(testFolder)) {
-            std::printf("%.1f\n", peakOfThisProcess() - before);
-            return 0;
-        }
-    }
-    return 1;
+    const auto *candidate = std::find_if(std::begin(candidates), std::end(candidates),
+                                         [&name](const Candidate &one) { return name == one.name; });
+    return candidate != std::end(candidates) && candidate->work(TestFolder(folder));
 }
 
 void measure(benchmark::State &state, const Candidate &candidate, const Load &load)
@@ -170,7 +145,7 @@ void measure(benchmark::State &state, const Candidate &candidate, const Load &lo
     }
     state.counters["cpu_ms"] = benchmark::Counter(cpu * 1000, benchmark::Counter::kAvgIterations);
     if (candidate.program == nullptr && folder.clear()) {
-        state.counters["peak_MiB"] = peakOf(candidate, path);
+        state.counters["peak_MiB"] = peakInOwnProcess({QLatin1StringView(candidate.name), path});
     }
 }
 
@@ -192,7 +167,7 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     if (argc == 4 && QByteArray(argv[1]) == "--peak") {
-        return printPeak(argv[2], QFile::decodeName(argv[3]));
+        return printPeak([argv] { return doOnce(argv[2], QFile::decodeName(argv[3])); });
     }
     const TestSupport::Sandbox ownSandbox;
     sandbox = &ownSandbox;

@@ -4,6 +4,8 @@
 // elements and attributes, and beside a toolkit that generates its code. The peak of the memory is the one of a process
 // that does it once and nothing else.
 
+#include "PeakMemory.h"
+
 #include "utilsDll/soap/QtSoapMessage.h"
 
 #ifdef HAS_GENERATED_TEXT
@@ -12,13 +14,12 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
-#include <QtCore/QProcess>
 #include <QtXml/QDomDocument>
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 using namespace ZYX_zglv6;
@@ -107,37 +108,11 @@ constexpr Candidate candidates[] = {
 #endif
 };
 
-/*! The most memory that this process has had so far; 0 where the system does not tell. */
-double peakOfThisProcess()
+bool doOnce(const QByteArray &name)
 {
-    QFile status(u"/proc/self/status"_qs);
-    if (!status.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("VmHWM:") + 6, 20).trimmed().split(' ').front().toDouble() / 1024;
-}
-
-/*! What the work takes beyond the text that is there at its start, in MB, measured in a process of its own. */
-double peakOf(const char *name)
-{
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), {u"--peak"_qs, QLatin1StringView(name)});
-    process.waitForFinished(-1);
-    return process.readAllStandardOutput().toDouble();
-}
-
-int printPeak(const QByteArray &name)
-{
-    longText();
-    const double before = peakOfThisProcess();
-    for (const Candidate &candidate : candidates) {
-        if (name == candidate.name && candidate.work()) {
-            std::printf("%.0f\n", peakOfThisProcess() - before);
-            return 0;
-        }
-    }
-    return 1;
+    const auto *candidate = std::find_if(std::begin(candidates), std::end(candidates),
+                                         [&name](const Candidate &one) { return name == one.name; });
+    return candidate != std::end(candidates) && candidate->work();
 }
 
 void measure(benchmark::State &state, const Candidate &candidate)
@@ -150,7 +125,7 @@ void measure(benchmark::State &state, const Candidate &candidate)
         }
     }
     state.SetBytesProcessed(state.iterations() * textSize);
-    state.counters["peak_MB"] = peakOf(candidate.name);
+    state.counters["peak_MiB"] = peakInOwnProcess({QLatin1StringView(candidate.name)});
 }
 
 } // namespace
@@ -159,7 +134,8 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     if (argc == 3 && QByteArray(argv[1]) == "--peak") {
-        return printPeak(argv[2]);
+        longText(); // there before the work begins
+        return printPeak([argv] { return doOnce(argv[2]); });
     }
     for (const Candidate &candidate : candidates) {
         benchmark::RegisterBenchmark(candidate.name, measure, candidate)->Unit(benchmark::kMillisecond);
