@@ -9,12 +9,17 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <QtCore/QPointF>
+
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 
 class QAction;
 class QAtomicInt;
 class QObject;
+class QPolygonF;
 class QUrl;
 class QWidget;
 
@@ -111,6 +116,22 @@ QString newestReport(const ZYX_zglv6::CZipCrashReport &report);
 void sendReport(ZYX_zglv6::CZipCrashReport &report, const std::function<void(bool)> &tell);
 bool isTextDumpWaiting();
 bool copyThroughArchive(const QDir &from, const QDir &to, const QFileInfo &zipFile);
+
+// files.cpp
+
+QString saveCopy(const QString &photograph, const QString &name);
+QStringList photographsBehind(const QString &photograph);
+bool installForAllUsers(const std::string &folder, const QByteArray &presets);
+
+// geometry.cpp
+
+QPointF handleAt(const QPolygonF &photograph, const QPointF &mouse);
+
+// hostExchange.cpp
+
+bool handOver(const std::string &path, const char *pixels, int width, int height);
+bool answer(const std::string &path, const std::function<bool(char *pixels, std::uint64_t size)> &develop);
+int readAnswer(const std::string &path, const std::function<void(const char *pixels, std::uint64_t size)> &use);
 
 // platform.cpp
 
