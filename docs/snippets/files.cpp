@@ -16,7 +16,8 @@ QString saveCopy(const QString &photograph, const QString &name)
     if (!validateFileName(name, false)) {
         return u"%1 can't be the name of a file"_qs.arg(name);
     }
-    if (availableDiskSpace(file.absolutePath()) < file.size()) {
+    const long long room = availableDiskSpace(file.absolutePath()); // 0 where Windows can't tell
+    if (room > 0 && room < file.size()) {
         return u"There is no room for %1"_qs.arg(fileSizeToString(file.size()));
     }
     return copyRecursively(photograph, file.dir().filePath(name)) ? QString() : u"It could not be copied"_qs;

@@ -9,7 +9,7 @@ using namespace ZYX_zglv6;
 namespace Snippets {
 
 //! [drag]
-/*! Where the handle of a crop goes when the mouse is at \a mouse: always onto the outline of the photograph. */
+/*! Where the handle of a crop goes when the mouse is at \a mouse: onto the photograph's outline, to the tolerance. */
 QPointF handleAt(const QPolygonF &photograph, const QPointF &mouse)
 {
     constexpr double tolerance = 1;

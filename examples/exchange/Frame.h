@@ -26,8 +26,7 @@ struct FrameSize
     int height = 0;
     int depth = 0; // bits of a channel
 
-    /*! Empty if both sides know such frames: 8 or 16 bits, and sides from 1 to a size that can be counted. Else why
-     * not. */
+    /*! Empty if both sides know such frames: 8 or 16 bits, sides from 1 to what can be counted. Else why not. */
     QString refusal() const;
 
     /*! Whether the record's size in bytes, formed in 64 bits, has wrapped round: a small file would seem to fit. */
@@ -64,6 +63,6 @@ private:
 
 /*!
     The frame as an image. 8 bits: the image takes over \a pixels, without a copy. 16 bits: a copy, because an image's
-    pixels have four channels then. Null if memory does not suffice.
+    pixels have four channels then. Null without pixels, for a size that is refused, and if memory does not suffice.
 */
 QImage imageOfFrame(Pixels pixels, const FrameSize &size);

@@ -91,6 +91,7 @@ bool CPluginSide::send(const CPackedFrame &frame, const QString &imageFile, cons
     if (!iccProfile.isEmpty()) {
         request.setValue(PluginKeys::iccProfile, bytes(iccProfile));
     }
+    QFile::remove(imagePath(m_recordPath)); // one of an earlier frame must not pass for this one
     const qint64 start = m_timer.elapsed();
     const bool isSaved = request.save(frame.pixels(), m_sentSize.width, m_sentSize.height, m_sentSize.depth);
     m_sentAt = m_timer.elapsed() - start;

@@ -11,7 +11,6 @@ using dataHolder = DataVariant::dataHolder;
 
 dataHolder::dataHolder(std::int32_t tag)
     : type(tag)
-    , value{.bits64 = 0}
 {
     if (tag == Bytes) {
         value.bytes = nullptr;

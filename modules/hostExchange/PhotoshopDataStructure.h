@@ -53,8 +53,9 @@ public:
         Reads the data file and, where \a imageData is not null and isImageExpected() says so, the image file.
 
         The result speaks for the data file alone: false where it can't be opened or ends too soon. \a imageData gets
-        the pixels, or null where the image file is missing, is not exactly imageSize() bytes long or does not fit into
-        memory. The caller owns them and frees them by "::operator delete(pixels)".
+        the pixels, or null where none are expected, or the image file can't be read, is not exactly imageSize() bytes
+        long or does not fit into memory; the table decides, also when it is an old one because no new one was read. The
+       caller owns them and frees them by "::operator delete(pixels)".
     */
     [[nodiscard]] virtual bool load(char **imageData);
 
@@ -82,14 +83,17 @@ public:
     /*! All that the table holds. */
     [[nodiscard]] const std::unordered_map<std::string, DataVariant> &data() const;
 
-    /*! Writes the table; does nothing on a stream that is not good. An entry without a value can't be read again. */
+    /*!
+        Writes the table; does nothing on a stream that is not good. An entry without a value can't be read again: it
+        takes the next entry's key for its value.
+    */
     void serialize(std::ostream &stream) const;
 
     /*!
         Reads a table in place of the present one; does nothing on a stream that is not good.
 
-        What is damaged ends with the entries before the damage, and with a failed stream where it asks for more than
-        there is. Lengths that lie cost no memory: bytes are read in pieces.
+        What is damaged gives the entries before the damage, and what can be made out behind it; the stream has failed
+        where it was asked for more than there is. Lengths that lie cost no memory: bytes are read in pieces.
     */
     void deserialize(std::istream &stream);
 
@@ -131,7 +135,7 @@ public:
         dataHolder &operator=(const dataHolder &) = delete;
 
         std::int32_t type;
-        Value value;
+        Value value = {.bits64 = 0};
     };
 
     DataVariant() = default;

@@ -20,7 +20,7 @@ public:
 
     /*!
         As load() of the base. Where the data file can't be read, "exitCode" becomes -1 too. A run that failed gives
-       true, because its record was read, and no pixels.
+       true and no pixels: its record was read.
     */
     [[nodiscard]] bool load(char **imageData) override;
 

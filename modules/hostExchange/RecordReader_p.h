@@ -12,7 +12,8 @@ std::uint64_t readSize(std::istream &stream);
 /*! Empty: there is no key here, or its bytes end too soon. */
 std::string readKey(std::istream &stream);
 
-/*! No value: the tag is unknown, or the bytes end too soon. Then nothing further is taken from the stream. */
+/*! No value: the tag or that of its length is wrong, or the bytes end too soon. Then nothing further is taken from the
+ * stream. */
 PhotoshopDataStructure::DataVariant readValue(std::istream &stream);
 
 } // namespace ZYX_zglv6::Record

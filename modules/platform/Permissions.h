@@ -9,7 +9,7 @@ namespace ZyxPlatform {
 
 /*!
     Gives what is at \a path, or where a link there leads, the octal \a mode. Windows knows its write bits alone:
-   without any of them it becomes read-only.
+    without any of them the path becomes read-only.
 */
 std::error_code setPermissions(const std::filesystem::path &path, int mode);
 

@@ -15,14 +15,21 @@ namespace ZyxPlatform {
 
 namespace {
 
-/*! For file systems that can't do both in one step. A folder has no second name, so there the step before may be late.
- */
+/*!
+    For file systems that can't rename without replacing. Without second names, and for folders, what appears between
+    the look and the renaming would be replaced.
+*/
 bool renameByLink(const char *from, const char *to)
 {
     if (linkat(AT_FDCWD, from, AT_FDCWD, to, 0) == 0) {
-        return unlink(from) == 0;
+        if (unlink(from) == 0) {
+            return true;
+        }
+        unlink(to);
+        return false;
     }
-    return errno == EPERM && faccessat(AT_FDCWD, to, F_OK, AT_SYMLINK_NOFOLLOW) != 0 && std::rename(from, to) == 0;
+    const bool hasNoLinks = errno == EPERM || errno == ENOSYS || errno == EOPNOTSUPP;
+    return hasNoLinks && faccessat(AT_FDCWD, to, F_OK, AT_SYMLINK_NOFOLLOW) != 0 && std::rename(from, to) == 0;
 }
 
 /*! A link would become a file: it stays, as a folder does. */

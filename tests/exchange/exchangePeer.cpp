@@ -48,7 +48,7 @@ bool answer(const DataVariant &exitCode, int surplus = 0)
 {
     PhotoshopDataStructure record(QFile::encodeName(g_recordPath).toStdString());
     char *pixels = nullptr;
-    if (!record.load(&pixels)) {
+    if (!record.load(&pixels) || pixels == nullptr) {
         return false;
     }
     std::string frame(pixels, pixels + record.imageSize());

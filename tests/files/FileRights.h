@@ -6,8 +6,7 @@
 
 namespace TestSupport {
 
-/*! True if the system marks what is at \a path as not to be written, by nobody; follows no link's name but its target.
- */
+/*! True if nobody may write what is at \a path, or where a link there leads. */
 bool isReadOnly(const QString &path);
 
 /*! False where the system takes the mark for a folder but forgets it, as Wine does. Tries it on \a folder. */

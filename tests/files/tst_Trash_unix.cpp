@@ -62,6 +62,7 @@ private Q_SLOTS:
     void link_goesAndItsTargetStays();
     void brokenLink_fails();
     void fileThatMayNotBeMoved_failsAndStays();
+    void trashThatCantBeMade_failsAndTheFileStays();
     void anotherProgram_listsAndRestoresIt();
 
 private:
@@ -76,8 +77,7 @@ void tst_Trash_unix::init()
     for (const QString &folder : {at(QString()), trash(QString())}) {
         QVERIFY(!QFileInfo::exists(folder) || QDir(folder).removeRecursively());
     }
-    // without the folder of the user's data, the trash would be that of the whole volume
-    QVERIFY(QDir().mkpath(at(QString())) && QDir().mkpath(m_sandbox.filePath(u".local/share"_qs)));
+    QVERIFY(QDir().mkpath(at(QString())));
 }
 
 QString tst_Trash_unix::at(const QString &name) const
@@ -183,6 +183,16 @@ void tst_Trash_unix::fileThatMayNotBeMoved_failsAndStays()
     }
     QVERIFY(QFile::setPermissions(at(u"sub"_qs), QFile::Permissions(0x7755)));
     QCOMPARE(treeOf(at(QString())), (QStringList{u"sub/"_qs, u"sub/a=sub/a"_qs}));
+}
+
+void tst_Trash_unix::trashThatCantBeMade_failsAndTheFileStays()
+{
+    const QString inTheWay = QDir::cleanPath(trash(QString()));
+    QVERIFY(FileTrees::make(at(QString()), {u"a"_qs}) && QDir().mkpath(QFileInfo(inTheWay).path()));
+    QVERIFY(QFile(inTheWay).open(QIODevice::WriteOnly));
+    QCOMPARE(moveFileToTrash(at(u"a"_qs)), FileManagement::FileOperationFailed);
+    QVERIFY(QFile::remove(inTheWay));
+    QCOMPARE(treeOf(at(QString())), QStringList{u"a=a"_qs});
 }
 
 void tst_Trash_unix::anotherProgram_listsAndRestoresIt()

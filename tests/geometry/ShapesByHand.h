@@ -16,7 +16,7 @@
 */
 namespace ByHand {
 
-/*! Shapes and points that are the same in each run, some hundred units away from the origin. */
+/*! Shapes and points that are the same in each run; shapes lie some hundred units away from the origin. */
 class Dice
 {
 public:

@@ -141,7 +141,7 @@ void tst_GeometryHelpers::foot_justAboveTheFlatness_isGeneralAndFinite_data()
 
 void tst_GeometryHelpers::foot_justAboveTheFlatness_isGeneralAndFinite()
 {
-    constexpr double lostDigits = 1e-8; // c is near 5e7 here; a flat line's foot is 3e-7 or more away
+    constexpr double lostDigits = 1e-8; // c is up to 3e7 here; a flat line's foot is 3e-7 or more away
     QFETCH(QLineF, line);
     QFETCH(QPointF, foot);
 
@@ -299,7 +299,7 @@ void tst_GeometryHelpers::containsPoint_inPolygon_data()
     const QPolygonF twoPoints(QList<QPointF>{{10, 10}, {20, 20}});
     QTest::newRow("two points: between") << twoPoints << QPointF(15, 15) << 0.5 << true;
     QTest::newRow("two points: beside") << twoPoints << QPointF(15, 17) << 0.5 << false;
-    QTest::newRow("no point: our own choice") << QPolygonF() << QPointF(0, 0) << 5.0 << false;
+    QTest::newRow("no point") << QPolygonF() << QPointF(0, 0) << 5.0 << false;
 }
 
 void tst_GeometryHelpers::containsPoint_inPolygon()

@@ -103,7 +103,7 @@ void tst_GeometryOutline::nearestFoot_behindAnotherLine_data()
     QTest::addColumn<double>("tolerance");
     QTest::addColumn<QPointF>("foot");
 
-    // None of the others has a foot of its own within its extent.
+    // None of the others, but the same line once more, has a foot of its own within its extent.
     const QPointF none;
     const QPointF found(15, 20);
     const QLineF across(14, 18, 16, 20); // crosses the way at (15, 19)

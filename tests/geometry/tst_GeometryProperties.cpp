@@ -223,8 +223,7 @@ void tst_GeometryProperties::nearestFoot_onTheOutline_isTheProjection()
     QVERIFY(decided > decidedAtLeast);
 }
 
-/*! Where no edge is seen at right angles only corners are left; the shapes are far from the origin, which means "none".
- */
+/*! Where no edge is seen at right angles only corners are left. The origin, far from the shapes, means "none". */
 void tst_GeometryProperties::imageCorner_isTheFootOrTheNearestCorner()
 {
     ByHand::Dice dice(7);
@@ -280,7 +279,7 @@ void tst_GeometryProperties::containsPoint_isDecidedByTheTurnsOfTheOutlineOrTheD
     QVERIFY(onOutline > cases / 50 && inside > cases / 10 && inside < cases * 9 / 10);
 }
 
-/*! It is told to be the same: the corners' polygon, or for feet one that begins at the bottom right. */
+/*! A rectangle is its corners' polygon, or for feet one that begins at the bottom right. */
 void tst_GeometryProperties::rectangle_isTakenAsItsPolygon()
 {
     ByHand::Dice dice(9);

@@ -28,8 +28,7 @@ struct PlainReading
     std::size_t end = 0; // how many bytes were taken
 };
 
-/*! What a reader has to make of \a bytes: the steps of the format over bytes in memory, without a line of the library.
- */
+/*! What a reader has to make of \a bytes: the steps of the format in memory, without a line of the library. */
 PlainReading readPlainly(std::string_view bytes);
 
 } // namespace TestSupport

@@ -69,11 +69,11 @@ private Q_SLOTS:
 
     void deserialize_damage_data();
     void deserialize_damage();
-    void deserialize_everyPrefix_isReadAsTold();
-    void deserialize_everyChangedByte_isReadAsTold();
-    void deserialize_everyChangedByteOfAPrefix_isReadAsTold();
-    void deserialize_everyByteTakenOut_isReadAsTold();
-    void deserialize_everyByteDoubled_isReadAsTold();
+    void deserialize_everyPrefix_agreesWithThePlainReader();
+    void deserialize_everyChangedByte_agreesWithThePlainReader();
+    void deserialize_everyChangedByteOfAPrefix_agreesWithThePlainReader();
+    void deserialize_everyByteTakenOut_agreesWithThePlainReader();
+    void deserialize_everyByteDoubled_agreesWithThePlainReader();
     void deserialize_lyingNumbers_keepTheEntriesBefore_data();
     void deserialize_lyingNumbers_keepTheEntriesBefore();
     void deserialize_longValueCutByOneByte_isDropped_data();
@@ -184,7 +184,7 @@ void tst_DamagedRecords::deserialize_damage()
     QCOMPARE(difference(file), QByteArray());
 }
 
-void tst_DamagedRecords::deserialize_everyPrefix_isReadAsTold()
+void tst_DamagedRecords::deserialize_everyPrefix_agreesWithThePlainReader()
 {
     const std::string file = validFile();
     for (std::size_t size = 0; size <= file.size(); ++size) {
@@ -194,7 +194,7 @@ void tst_DamagedRecords::deserialize_everyPrefix_isReadAsTold()
     }
 }
 
-void tst_DamagedRecords::deserialize_everyChangedByte_isReadAsTold()
+void tst_DamagedRecords::deserialize_everyChangedByte_agreesWithThePlainReader()
 {
     std::string file = validFile();
     for (char &byte : file) {
@@ -208,7 +208,7 @@ void tst_DamagedRecords::deserialize_everyChangedByte_isReadAsTold()
     }
 }
 
-void tst_DamagedRecords::deserialize_everyChangedByteOfAPrefix_isReadAsTold()
+void tst_DamagedRecords::deserialize_everyChangedByteOfAPrefix_agreesWithThePlainReader()
 {
     const std::string file = validFile();
     for (std::size_t size = 1; size < file.size(); ++size) {
@@ -224,7 +224,7 @@ void tst_DamagedRecords::deserialize_everyChangedByteOfAPrefix_isReadAsTold()
     }
 }
 
-void tst_DamagedRecords::deserialize_everyByteTakenOut_isReadAsTold()
+void tst_DamagedRecords::deserialize_everyByteTakenOut_agreesWithThePlainReader()
 {
     const std::string file = validFile();
     for (std::size_t i = 0; i < file.size(); ++i) {
@@ -233,7 +233,7 @@ void tst_DamagedRecords::deserialize_everyByteTakenOut_isReadAsTold()
     }
 }
 
-void tst_DamagedRecords::deserialize_everyByteDoubled_isReadAsTold()
+void tst_DamagedRecords::deserialize_everyByteDoubled_agreesWithThePlainReader()
 {
     const std::string file = validFile();
     for (std::size_t i = 0; i < file.size(); ++i) {

@@ -74,8 +74,6 @@ class tst_RecordFiles_unix : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-
     void save_dataFileOnAFullDisk_isFalse_data();
     void save_dataFileOnAFullDisk_isFalse();
     void save_imageFileOnAFullDisk_isFalse_data();
@@ -90,13 +88,6 @@ private Q_SLOTS:
     void load_pathIsBytes();
 };
 
-void tst_RecordFiles_unix::initTestCase()
-{
-    if (!QFile::exists(u"/dev/full"_qs)) {
-        QSKIP("no /dev/full here");
-    }
-}
-
 void tst_RecordFiles_unix::save_dataFileOnAFullDisk_isFalse_data()
 {
     QTest::addColumn<int>("extra");
@@ -108,6 +99,9 @@ void tst_RecordFiles_unix::save_dataFileOnAFullDisk_isFalse_data()
 void tst_RecordFiles_unix::save_dataFileOnAFullDisk_isFalse()
 {
     QFETCH(int, extra);
+    if (!QFile::exists(u"/dev/full"_qs)) {
+        QSKIP("no /dev/full here");
+    }
 
     const RecordFiles files;
     QVERIFY(makeFullDisk(files.dataFile()));
@@ -130,6 +124,9 @@ void tst_RecordFiles_unix::save_imageFileOnAFullDisk_isFalse_data()
 void tst_RecordFiles_unix::save_imageFileOnAFullDisk_isFalse()
 {
     QFETCH(int, pixels);
+    if (!QFile::exists(u"/dev/full"_qs)) {
+        QSKIP("no /dev/full here");
+    }
 
     const RecordFiles files;
     QVERIFY(makeFullDisk(files.imageFile()));

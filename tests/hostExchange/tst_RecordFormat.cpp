@@ -408,7 +408,7 @@ void tst_RecordFormat::deserialize_longValues_comeBackWhole()
 
     std::string bytes;
     for (int i = 0; i < size; ++i) {
-        bytes += char(i * 7 + i / 256); // no two stretches alike
+        bytes += char(i * 7 + i / 256 + i / 65536); // no two pieces alike
     }
     const auto value = DataVariant::fromBytes(Bytes(bytes.begin(), bytes.end()));
     PhotoshopDataStructure record;
@@ -436,7 +436,7 @@ void tst_RecordFormat::deserialize_longKey_comesBackWhole()
 
     std::string key;
     for (int i = 0; i < size; ++i) {
-        key += char(i * 7 + i / 256);
+        key += char(i * 7 + i / 256 + i / 65536);
     }
     const PlainReading reading = deserialized(sizeField(2) + intEntry(key, 3) + intEntry("next", 4));
     QVERIFY((reading.table == PlainTable{{key, {1, number32(3)}}, {"next", {1, number32(4)}}}));

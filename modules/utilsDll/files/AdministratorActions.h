@@ -10,10 +10,10 @@
 class QByteArray;
 
 /*!
-    The few file operations that may need more rights than the user has. Paths are UTF-8.
+    The few file operations that may need more rights than the user has. Paths are UTF-8, with one exception.
 
     To be made, used and destroyed on one thread: on Windows it takes part in that thread's COM. A failure is a false
-    result and one line in the log.
+    result and one line in the log; for bytes that could not be written, the result alone.
 
     Permissions are an octal mode, such as "755". On Windows only its write bits count: without any, the path becomes
     read-only. One that is no octal number throws std::invalid_argument, one beyond an int std::out_of_range.

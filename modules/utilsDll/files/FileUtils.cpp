@@ -103,7 +103,8 @@ bool removeEntry(const QFileInfo &entry)
     if (entry.isDir() && !entry.isSymLink() && !entry.isJunction()) {
         return removeDirectoryContent(QDir(entry.absoluteFilePath()));
     }
-    return QFile::remove(entry.absoluteFilePath());
+    const QString path = entry.absoluteFilePath();
+    return QFile::remove(path) || (entry.isDir() && QDir().rmdir(path)); // Windows: a link to a folder is a folder
 }
 
 QString neighbourOf(const QString &path, qsizetype step)

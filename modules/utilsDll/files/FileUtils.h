@@ -13,9 +13,9 @@ class QFileInfo;
 class QSize;
 
 /*
-    What hosts do with the names and files of photographs. Nothing here throws or logs, keeps state or caches; each
-    function may be called from any thread, except sizeToString() and GetIccProfileFilePathFromSystem(), which ask the
-    screen and belong to the main thread.
+    What hosts do with the names and files of photographs. Nothing here throws, keeps state or caches, and nothing logs
+    but sizeToString(), which reports an unknown unit, and GetIccProfileFilePathFromSystem(), without a main window.
+    These two ask the screen and belong to the main thread; the others may be called from any.
 */
 namespace ZYX_zglv6 {
 
@@ -35,9 +35,10 @@ enum ErrorCodes { FileOperationSucceeded = 0, FileOperationFailed = 2 };
     Whether \a name can be the name of a file by the rules of Windows, on any system; with \a isPath a path may be in
     front of it.
 
-    Wrong are: no name, 32,767 characters or more, more than 260 between two separators, ".." anywhere, characters that
-    Windows forbids, and a device's name such as "NUL" as the whole name or the end of the path. A device's name with an
-    extension passes, and so does one in the middle of a path.
+    Wrong, of the cleaned path, are: no name, 32,767 characters or more, more than 260 between two separators, "..", any
+    of <>"|?* and without \a isPath of :/\, and a device's name such as "NUL" as the whole name or the end of the path.
+    A device's name with an extension passes, and so does one in the middle of a path. \a name itself may hold a ".."
+    that cleaning takes away.
 */
 UTILSDLL_EXPORT bool validateFileName(const QString &name, bool isPath);
 
@@ -82,7 +83,10 @@ UTILSDLL_EXPORT QString getPreviouseFilePath(const QString &path);
 /*! Moves a file or folder to the recycle bin, without asking. */
 [[nodiscard]] UTILSDLL_EXPORT FileManagement::ErrorCodes moveFileToTrash(const QString &path);
 
-/*! Bytes that the user may still write on the volume of \a path; 0 if it is not there. On Windows for Latin-1 paths. */
+/*!
+    Bytes that the user may still write on the volume of \a path; 0 if it is not there. On Windows also 0 for what is no
+    folder, and for a path beyond Latin-1.
+*/
 UTILSDLL_EXPORT long long availableDiskSpace(const QString &path);
 
 /*! \a size bytes as "1024B", "1.0KB" or "1.0MB", with the translated unit. */
@@ -94,8 +98,7 @@ UTILSDLL_EXPORT QString fileSizeToString(const long long &size);
 */
 UTILSDLL_EXPORT QString sizeToString(const QSize &size);
 
-/*! Path, in UTF-8, of the colour profile of the monitor under the main window, else of the primary one; empty for none.
- */
+/*! Path, in UTF-8, of the colour profile of the main window's monitor, else of the primary one; empty for none. */
 UTILSDLL_EXPORT std::string GetIccProfileFilePathFromSystem();
 
 } // namespace ZYX_zglv6

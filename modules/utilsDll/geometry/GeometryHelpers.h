@@ -24,13 +24,13 @@ UTILSDLL_EXPORT double auxGetDistance(const QPointF &a, const QPointF &b);
 
 /*!
     The foot of the perpendicular from \a p on the infinite line through \a line. One that is flat or upright to 1e-7
-    counts as exactly so; a line without length counts as flat.
+    counts as exactly so, at the height or place of its second end; a line without length counts as flat.
 */
 UTILSDLL_EXPORT QPointF auxGetPerpendicularCoord(const QLineF &line, const QPointF &p);
 
 /*!
     Whether \a p is less than \a tolerance away from the infinite line through \a line, and its foot no more than that
-    beyond the segment. With a tolerance of 0: never.
+    beyond the segment, in x and in y. With a tolerance of 0: never.
 */
 UTILSDLL_EXPORT bool auxIsPointBelongsLine(const QLineF &line, const QPointF &p, double tolerance);
 
