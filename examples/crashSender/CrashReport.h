@@ -26,7 +26,7 @@ public:
 
     /*! Packs the report if a dump waits. */
     CCrashReport(const QString &product, const QString &email, const QString &comment);
-    ~CCrashReport(); // leaves the ten newest reports
+    ~CCrashReport(); // after a new report leaves the ten newest
 
     Origin origin() const;
 

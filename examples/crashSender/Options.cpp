@@ -20,7 +20,7 @@ QUrl readService(QCommandLineParser &parser, const QCommandLineOption &option)
     const QString value = parser.value(option);
     const QUrl address(u"http://"_qs + value, QUrl::StrictMode);
     if (address.host().isEmpty() || !address.path().isEmpty() || address.hasQuery() || address.hasFragment()
-        || value.contains(u'@')) {
+        || value.contains(u'@') || address.port() == 0) {
         QTextStream(stderr) << "crashSender: a service is a host, or a host and a port" << Qt::endl;
         parser.showHelp(1);
     }

@@ -12,7 +12,7 @@
 class CReportContents
 {
 public:
-    /*! An archive that can't be read or unpacked has no files. */
+    /*! An archive that can't be read has no files, a damaged one those before the damage. */
     explicit CReportContents(const QString &archive);
 
     /*! Those in folders of the archive too, by name. */

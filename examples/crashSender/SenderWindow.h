@@ -32,7 +32,7 @@ public:
     bool saveCopy(const QString &path);
 
 public Q_SLOTS:
-    /*! delivered() tells what became of it; from within if there is nothing that can be sent. */
+    /*! delivered() tells what became of it, at times from within. Does nothing where there is nothing to send. */
     void send();
 
 Q_SIGNALS:

@@ -38,7 +38,7 @@ public:
 
     /*!
         The system's number of the last failure before close(); 0 for none. Windows counts those of reading and writing
-        alone, and forgets them at the next end of the file.
+        alone.
     */
     int error() const;
 

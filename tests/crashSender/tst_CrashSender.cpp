@@ -385,6 +385,7 @@ void tst_CrashSender::wrongService_endsWithoutStarting_data()
     QTest::newRow("an empty user") << u"@127.0.0.1:80"_qs;
     QTest::newRow("no number") << u"127.0.0.1:http"_qs;
     QTest::newRow("port too large") << u"127.0.0.1:65536"_qs;
+    QTest::newRow("port 0") << u"127.0.0.1:0"_qs;
 }
 
 void tst_CrashSender::wrongService_endsWithoutStarting()

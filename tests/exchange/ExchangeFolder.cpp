@@ -5,6 +5,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtTest/QTest>
 
 namespace ExchangeTest {
@@ -73,8 +74,7 @@ Run ExchangeFolder::dump(const QStringList &arguments) const
 
 Run ExchangeFolder::pluginWithPeer(const QByteArray &way, const QStringList &arguments) const
 {
-    return run(QStringLiteral(EXCHANGE_PLUGIN), QStringList{u"--app"_qs, QStringLiteral(EXCHANGE_PEER)} + arguments,
-               way);
+    return run(QStringLiteral(EXCHANGE_PLUGIN), QStringList{u"--app"_qs, peerPath()} + arguments, way);
 }
 
 Run ExchangeFolder::run(const QString &program, const QStringList &arguments, const QByteArray &peerWay) const
@@ -111,7 +111,8 @@ QString appPath()
 
 QString peerPath()
 {
-    return QDir::toNativeSeparators(QStringLiteral(EXCHANGE_PEER));
+    // with the drive, for a process that works on another one
+    return QDir::toNativeSeparators(QFileInfo(QStringLiteral(EXCHANGE_PEER)).absoluteFilePath());
 }
 
 QByteArray contentOf(const QString &path)

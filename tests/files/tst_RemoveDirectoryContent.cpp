@@ -14,6 +14,16 @@
 using namespace ZYX_zglv6;
 using FileTrees::treeOf;
 
+namespace {
+
+#ifdef ZYX_SLOW_FILES
+constexpr int manyFiles = 1'000;
+#else
+constexpr int manyFiles = 10'000;
+#endif
+
+} // namespace
+
 class tst_RemoveDirectoryContent : public QObject
 {
     Q_OBJECT
@@ -29,7 +39,7 @@ private Q_SLOTS:
     void relativeFolder();
     void deepFolders_areEmptiedToTheGround();
     void deepFolders_emptyGroundKeepsAll();
-    void tenThousandFiles();
+    void manyFiles_areNoObstacle();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -133,9 +143,9 @@ void tst_RemoveDirectoryContent::deepFolders_emptyGroundKeepsAll()
     QCOMPARE(treeOf(m_folder->path()).filter(u"="_qs).size(), 60);
 }
 
-void tst_RemoveDirectoryContent::tenThousandFiles()
+void tst_RemoveDirectoryContent::manyFiles_areNoObstacle()
 {
-    QVERIFY(FileTrees::make(m_folder->path(), FileTrees::numberedNames(10'000)));
+    QVERIFY(FileTrees::make(m_folder->path(), FileTrees::numberedNames(manyFiles)));
     QVERIFY(removeDirectoryContent(QDir(m_folder->path())));
     QCOMPARE(treeOf(m_folder->path()), QStringList());
 }

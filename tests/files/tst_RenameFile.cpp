@@ -14,6 +14,19 @@
 using namespace ZYX_zglv6;
 using FileTrees::treeOf;
 
+namespace {
+
+/*! Whether the system gives a file another name that differs in upper and lower case alone; Wine does not. */
+bool changesLetters()
+{
+    const QTemporaryDir folder;
+    const QString lower = folder.filePath(u"letters"_qs);
+    return FileTrees::write(lower, "x") && QFile::rename(lower, folder.filePath(u"LETTERS"_qs))
+        && QDir(folder.path()).entryList(QDir::Files) == QStringList{u"LETTERS"_qs};
+}
+
+} // namespace
+
 class tst_RenameFile : public QObject
 {
     Q_OBJECT
@@ -90,6 +103,9 @@ void tst_RenameFile::renameFile()
     QFETCH(const QString, to);
     QFETCH(const bool, result);
     QFETCH(const QStringList, tree);
+    if (from.compare(to, Qt::CaseInsensitive) == 0 && from != to && !changesLetters()) {
+        QSKIP("this system leaves the letters of a name as they are");
+    }
     QVERIFY(FileTrees::make(m_folder->path(), {u"a"_qs, u"b"_qs, u"full/c"_qs, u"full2/d"_qs, u"empty/"_qs}));
     QCOMPARE(ZYX_zglv6::renameFile(m_folder->filePath(from), m_folder->filePath(to)), result);
     QStringList sorted = tree;

@@ -79,7 +79,7 @@ bool needsZip64(const QString &path)
 int openEntry(zipFile archive, const QString &path, const QString &name, const QByteArray &password, uLong crc)
 {
     zip_fileinfo information{};
-    information.tmz_date.tm_mon = uInt(-1); // without a time: minizip makes 0 of it, as it counts from one
+    information.tmz_date.tm_mon = uInt(-1); // without a time: DOS counts months from one, so this becomes 0
     information.dosDate = ZyxPlatform::lastWriteDosTime(QFile::encodeName(path).constData());
     const QByteArray entry = entryName(name);
     const bool isUtf8 = isUtf8EntryName(entry, name);

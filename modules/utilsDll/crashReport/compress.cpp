@@ -47,7 +47,7 @@ bool doCompressDir(const QDir &dir, const QFileInfo &zipFile, bool clearContent)
 {
     ZYX_LOG('D', u"Try to compress all files in folder: "_qs + dir.absolutePath());
     std::list<QString> files;
-    gatherFiles(dir, QString(), zipFile, files);
+    gatherFiles(dir, QString(), QFileInfo(zipFile.absoluteFilePath()), files); // afresh: it may have come into being
     ASSERT_X_RETURN_VALUE(!files.empty(), false, "No files to compress");
     const bool isPacked
         = ZipMod::addToZipFile(zipFile.absoluteFilePath(), false, dir.absolutePath(), files, -1, QByteArray());

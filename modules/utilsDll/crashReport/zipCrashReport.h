@@ -35,9 +35,9 @@ public:
     in a zip file in CStorageLocation::crashFilesPath(). The destructor leaves the last ten zip files there, by name.
 
     Belongs to the thread that made it. Each call works until its files are written; an upload needs the event loop.
-    Failures are failed assertions in the log, where there is a word of them: a log that can't be copied, and a zip
-    file that repack() can't write, are told by nothing but their absence. CStorageLocation has to know the data
-    directory: until then the constructor and isCrashDumpCreated() throw std::runtime_error.
+    Failures are failed assertions, and lines of the archive functions, in the log; a log that can't be copied is told
+    by nothing. CStorageLocation has to know the data directory: until then the constructor and isCrashDumpCreated()
+    throw std::runtime_error.
 */
 class UTILSDLL_EXPORT CZipCrashReport : public QObject
 {
