@@ -9,6 +9,25 @@ namespace ZYX_zglv6 {
 using DataVariant = PhotoshopDataStructure::DataVariant;
 using dataHolder = DataVariant::dataHolder;
 
+namespace {
+
+/*! A value of that tag, whose place in the union is \a place. */
+template <typename T>
+DataVariant made(DataVariant::Type tag, T dataHolder::Value::*place, T value)
+{
+    auto holder = std::make_shared<dataHolder>(tag);
+    holder->value.*place = value;
+    return DataVariant(std::move(holder));
+}
+
+template <typename T>
+std::optional<T> found(const DataVariant &variant, DataVariant::Type tag, T dataHolder::Value::*place)
+{
+    return variant.type() == tag ? std::optional(variant.holder()->value.*place) : std::nullopt;
+}
+
+} // namespace
+
 dataHolder::dataHolder(std::int32_t tag)
     : type(tag)
 {
@@ -35,55 +54,40 @@ DataVariant::DataVariant(std::shared_ptr<dataHolder> holder)
 
 DataVariant DataVariant::fromInt(std::int32_t value)
 {
-    auto holder = std::make_shared<dataHolder>(Int);
-    holder->value.number = value;
-    return DataVariant(std::move(holder));
+    return made(Int, &dataHolder::Value::number, value);
 }
 
 DataVariant DataVariant::fromBits32(std::uint32_t value)
 {
-    auto holder = std::make_shared<dataHolder>(Bits32);
-    holder->value.bits32 = value;
-    return DataVariant(std::move(holder));
+    return made(Bits32, &dataHolder::Value::bits32, value);
 }
 
 DataVariant DataVariant::fromBits64(std::uint64_t value)
 {
-    auto holder = std::make_shared<dataHolder>(Bits64);
-    holder->value.bits64 = value;
-    return DataVariant(std::move(holder));
+    return made(Bits64, &dataHolder::Value::bits64, value);
 }
 
 DataVariant DataVariant::fromUInt64(std::uint64_t value)
 {
-    auto holder = std::make_shared<dataHolder>(UInt64);
-    holder->value.bits64 = value;
-    return DataVariant(std::move(holder));
+    return made(UInt64, &dataHolder::Value::bits64, value);
 }
 
 DataVariant DataVariant::fromBytes(std::span<const unsigned char> value)
 {
-    auto holder = std::make_shared<dataHolder>(Bytes);
-    if (!value.empty()) {
-        holder->value.bytes = std::make_unique<std::vector<unsigned char>>(value.begin(), value.end()).release();
-    }
-    return DataVariant(std::move(holder));
+    using Vector = std::vector<unsigned char>;
+    Vector *bytes = value.empty() ? nullptr : std::make_unique<Vector>(value.begin(), value.end()).release();
+    return made(Bytes, &dataHolder::Value::bytes, bytes);
 }
 
 DataVariant DataVariant::fromBool(bool value)
 {
-    auto holder = std::make_shared<dataHolder>(Bool);
-    holder->value.boolean = value;
-    return DataVariant(std::move(holder));
+    return made(Bool, &dataHolder::Value::boolean, value);
 }
 
 DataVariant DataVariant::fromString(std::string_view value)
 {
-    auto holder = std::make_shared<dataHolder>(String);
-    if (!value.empty()) {
-        holder->value.text = std::make_unique<std::string>(value).release();
-    }
-    return DataVariant(std::move(holder));
+    std::string *text = value.empty() ? nullptr : std::make_unique<std::string>(value).release();
+    return made(String, &dataHolder::Value::text, text);
 }
 
 std::int32_t DataVariant::type() const
@@ -93,22 +97,22 @@ std::int32_t DataVariant::type() const
 
 std::optional<std::int32_t> DataVariant::toInt() const
 {
-    return type() == Int ? std::optional(m_holder->value.number) : std::nullopt;
+    return found(*this, Int, &dataHolder::Value::number);
 }
 
 std::optional<std::uint32_t> DataVariant::toBits32() const
 {
-    return type() == Bits32 ? std::optional(m_holder->value.bits32) : std::nullopt;
+    return found(*this, Bits32, &dataHolder::Value::bits32);
 }
 
 std::optional<std::uint64_t> DataVariant::toBits64() const
 {
-    return type() == Bits64 ? std::optional(m_holder->value.bits64) : std::nullopt;
+    return found(*this, Bits64, &dataHolder::Value::bits64);
 }
 
 std::optional<std::uint64_t> DataVariant::toUInt64() const
 {
-    return type() == UInt64 ? std::optional(m_holder->value.bits64) : std::nullopt;
+    return found(*this, UInt64, &dataHolder::Value::bits64);
 }
 
 std::optional<std::span<const unsigned char>> DataVariant::toBytes() const
@@ -122,7 +126,7 @@ std::optional<std::span<const unsigned char>> DataVariant::toBytes() const
 
 std::optional<bool> DataVariant::toBool() const
 {
-    return type() == Bool ? std::optional(m_holder->value.boolean) : std::nullopt;
+    return found(*this, Bool, &dataHolder::Value::boolean);
 }
 
 std::optional<std::string_view> DataVariant::toString() const

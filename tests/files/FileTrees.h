@@ -24,6 +24,12 @@ QByteArray contentOf(const QString &path);
 */
 QStringList treeOf(const QString &folder);
 
+#ifdef ZYX_SLOW_FILES
+inline constexpr int manyFiles = 1'000;
+#else
+inline constexpr int manyFiles = 10'000;
+#endif
+
 /*! Names "0000.tif" and on. */
 QStringList numberedNames(int count);
 

@@ -13,17 +13,8 @@
 #include <memory>
 
 using namespace ZYX_zglv6;
+using FileTrees::manyFiles;
 using FileTrees::treeOf;
-
-namespace {
-
-#ifdef ZYX_SLOW_FILES
-constexpr int manyFiles = 1'000;
-#else
-constexpr int manyFiles = 10'000;
-#endif
-
-} // namespace
 
 class tst_CopyRecursively : public QObject
 {
