@@ -108,7 +108,7 @@ void tst_ExchangeApp::tones_areThoseOfTheDescription()
 
 void tst_ExchangeApp::outermostPixels_areDarkened()
 {
-    QVERIFY(writeRecord(requestOf(4, 3, 8), QByteArray(4 * 3 * 3, char(0xff))));
+    QVERIFY(writeRecord(requestOf(4, 3, 8), QByteArray(qsizetype(4) * 3 * 3, char(0xff))));
     QVERIFY(m_folder->app({m_record}).status() == 0);
     const QByteArray dark(3, char(0x3f));
     const QByteArray bright(3, char(0xff));

@@ -133,9 +133,7 @@ void tst_ExchangeDump::hostileTexts_areEscaped_data()
     QTest::newRow("lines") << QByteArray("a\nb\r\tc") << u"\"a\\nb\\r\\tc\""_qs;
     QTest::newRow("zero") << QByteArray("a\0b", 3) << u"\"a\\u{0}b\""_qs;
     QTest::newRow("delete") << QByteArray("\x7f") << u"\"\\u{7f}\""_qs;
-    QTest::newRow("turned direction") << QByteArray("\xe2\x80\xae"
-                                                    "gpj")
-                                      << u"\"\\u{202e}gpj\""_qs;
+    QTest::newRow("turned direction") << QByteArray::fromHex("e280ae67706a") << u"\"\\u{202e}gpj\""_qs;
     QTest::newRow("line separator") << QByteArray("\xe2\x80\xa8") << u"\"\\u{2028}\""_qs;
     QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbfz") << u"\"\\u{feff}z\""_qs;
     QTest::newRow("tag character") << QByteArray("\xf3\xa0\x80\x81") << u"\"\\u{e0001}\""_qs;

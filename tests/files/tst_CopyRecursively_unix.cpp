@@ -232,7 +232,7 @@ void tst_CopyRecursively_unix::fullDisk_leavesWholeFilesOnly()
 {
     RUN_IN_FRESH_PROCESS();
     QVERIFY(FileTrees::make(m_folder->path(), {u"source/"_qs, u"small/"_qs}));
-    if (!FileTraps::mountSmallDisk(at(u"small"_qs), 64 * 1024)) {
+    if (!FileTraps::mountSmallDisk(at(u"small"_qs), 65'536)) {
         QSKIP("This user may not mount a file system");
     }
     const QByteArray bytes(20'000, 'x');
