@@ -34,11 +34,11 @@ void tst_DiskSpace_unix::smallDisk_isTheVolumeOfAllOnIt()
     const QTemporaryDir folder;
     const QString disk = folder.filePath(u"disk \u00fc \u5199"_qs);
     QVERIFY(QDir().mkpath(disk));
-    if (!FileTraps::mountSmallDisk(disk, 1024 * 1024)) {
+    if (!FileTraps::mountSmallDisk(disk, 1'048'576)) {
         QSKIP("This user may not mount a file system");
     }
     QCOMPARE(availableDiskSpace(disk), 1024LL * 1024);
-    QVERIFY(FileTrees::write(disk + u"/sub/file", QByteArray(256 * 1024, 'x')));
+    QVERIFY(FileTrees::write(disk + u"/sub/file", QByteArray(262'144, 'x')));
     for (const QString &path : {disk, QString(disk + u'/'), QString(disk + u"/sub"), QString(disk + u"/sub/file")}) {
         QCOMPARE(availableDiskSpace(path), 768LL * 1024);
     }
@@ -47,7 +47,7 @@ void tst_DiskSpace_unix::smallDisk_isTheVolumeOfAllOnIt()
     QVERIFY(QDir::setCurrent(disk));
     QCOMPARE(availableDiskSpace(u"sub"_qs), 768LL * 1024);
     QCOMPARE(availableDiskSpace(u"."_qs), 768LL * 1024);
-    QVERIFY(!FileTrees::write(disk + u"/large", QByteArray(2 * 1024 * 1024, 'x')));
+    QVERIFY(!FileTrees::write(disk + u"/large", QByteArray(2'097'152, 'x')));
     QCOMPARE(availableDiskSpace(disk), 0LL);
 }
 

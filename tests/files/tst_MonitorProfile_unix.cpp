@@ -287,7 +287,7 @@ void tst_MonitorProfile_unix::realService_tellsTheProfileOfTheScreen()
     if (program.isEmpty() || !QFileInfo::exists(profileFile)) {
         QSKIP("colord is missing");
     }
-    if (!FileTraps::mountSmallDisk(u"/var/lib/colord"_qs, 4 * 1024 * 1024)) { // where it keeps its records
+    if (!FileTraps::mountSmallDisk(u"/var/lib/colord"_qs, 4'194'304)) { // where it keeps its records
         QSKIP("This user may not mount a file system");
     }
     const HostApplication application;

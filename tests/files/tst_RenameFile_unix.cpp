@@ -28,7 +28,8 @@ int linkRefusal = 0; // of one without second names
 
 } // namespace
 
-// Take the place of the C library's.
+// Take the place of the C library's, whose headers have reserved names for the arguments.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" Q_DECL_EXPORT int renameat2(int fromFolder, const char *from, int toFolder, const char *to,
                                        unsigned int flags) noexcept
 {
@@ -47,6 +48,7 @@ extern "C" Q_DECL_EXPORT int linkat(int fromFolder, const char *from, int toFold
     }
     return int(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 class tst_RenameFile_unix : public QObject
 {

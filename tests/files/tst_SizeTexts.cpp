@@ -90,7 +90,7 @@ void tst_SizeTexts::fileSizeToString_data()
     add(1024, "1024B");
     add(1025, "1.0KB");
     add(1536, "1.5KB");
-    add(10 * 1024, "10.0KB");
+    add(10'240, "10.0KB");
     add(1'000'000, "976.6KB");
     add(1'048'575, "1024.0KB");
     QTest::newRow("1 MB exactly") << 1'048'576LL << u"1024.0KB"_qs;
@@ -117,7 +117,7 @@ void tst_SizeTexts::fileSizeToString_unitIsTranslated()
     const UnitTranslator translator;
     QCOMPARE(ZYX_zglv6::fileSizeToString(5), u"5[B]"_qs);
     QCOMPARE(ZYX_zglv6::fileSizeToString(2048), u"2.0[KB]"_qs);
-    QCOMPARE(ZYX_zglv6::fileSizeToString(2 * 1024 * 1024), u"2.0[MB]"_qs);
+    QCOMPARE(ZYX_zglv6::fileSizeToString(2'097'152), u"2.0[MB]"_qs);
 }
 
 void tst_SizeTexts::sizeToString_byUnit_data()
