@@ -32,6 +32,20 @@ if(ZYX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${ZYX_CCACHE}")
 endif()
 
+# What most sources ask for. The library, the examples and the tests each precompile these once. Sources still name what
+# they use: clang-tidy reads them without this help.
+set(ZYX_COMMON_HEADERS
+    <algorithm> <array> <atomic> <functional> <memory> <optional> <stdexcept> <string> <thread> <utility> <vector>
+    <QtCore/QCoreApplication> <QtCore/QDateTime> <QtCore/QDir> <QtCore/QElapsedTimer> <QtCore/QFileInfo>
+    <QtCore/QPointer> <QtCore/QProcess> <QtCore/QRandomGenerator> <QtCore/QRegularExpression> <QtCore/QScopeGuard>
+    <QtCore/QSettings> <QtCore/QStandardPaths> <QtCore/QStringBuilder> <QtCore/QTemporaryDir> <QtCore/QTextStream>
+    <QtCore/QThread> <QtCore/QTimer> <QtCore/QVariant> <QtGui/QImage> <QtGui/QPainter>
+    <QtNetwork/QNetworkReply> <QtNetwork/QTcpServer> <QtNetwork/QTcpSocket>
+    <QtWidgets/QApplication> <QtWidgets/QMainWindow> <QtWidgets/QMessageBox> <QtWidgets/QPushButton>
+    <QtXml/QDomDocument>
+)
+list(TRANSFORM ZYX_COMMON_HEADERS REPLACE "(.+)" "$<$<COMPILE_LANGUAGE:CXX>:\\1>")
+
 function(zyx_target_defaults target)
     target_compile_definitions(${target} PRIVATE
         QT_NO_KEYWORDS
@@ -55,6 +69,8 @@ function(zyx_target_defaults target)
             # file names in reports are the ones of the source tree, wherever it lies
             "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
             "-fmacro-prefix-map=${sourceFolder}="
+            # what a compiler cache needs to know precompiled headers again
+            $<IF:$<CXX_COMPILER_ID:Clang>,SHELL:-Xclang -fno-pch-timestamp,-fpch-preprocess>
         )
     endif()
     if(ZYX_SANITIZE)

@@ -31,6 +31,9 @@ function(zyx_test name)
     add_executable(${name} ${name}.cpp ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE zyxTestSupport Zyx::UtilsDllzglv6 Qt6::Test ${TEST_LIBRARIES})
     zyx_target_defaults(${name})
+    target_precompile_headers(${name} REUSE_FROM zyxTestSupport)
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp" PROPERTIES
+        SKIP_PRECOMPILE_HEADERS ON) # as good as empty
     add_test(NAME ${room}.${name} COMMAND ${name})
     set_tests_properties(${room}.${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${TEST_ENVIRONMENT}"

@@ -4,8 +4,8 @@
 # Sourced by ./run, ./test and .ci/run: what a fresh Debian 12 machine needs, and how a preset is built.
 # shellcheck shell=bash disable=SC2034
 
-# Paths in reports and in the compiler cache are the ones of this tree, wherever it lies.
-export CCACHE_BASEDIR="$PWD"
+# The compiler cache serves each checkout of this tree, wherever it lies, also with precompiled headers.
+export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 build_packages=(
     cmake ninja-build ccache g++ pkg-config

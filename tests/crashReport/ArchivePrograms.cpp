@@ -16,7 +16,7 @@ constexpr int watchdogMs = 240'000;
 
 QString peerScript()
 {
-    return QFINDTESTDATA("ArchivePeer.py");
+    return QStringLiteral(ARCHIVE_PEER);
 }
 
 QJsonObject objectFrom(const QStringList &arguments)

@@ -124,7 +124,7 @@ QString declaring(const QString &encoding)
 
 QByteArray goldenDocument()
 {
-    QFile file(QFINDTESTDATA("data/fault.xml"));
+    QFile file(QStringLiteral(SOAP_DATA "/fault.xml"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

@@ -129,7 +129,7 @@ QString withTextAtPieces(const QString &text, int offset, qsizetype length)
 
 QByteArray golden(const QString &fileName)
 {
-    QFile file(QFINDTESTDATA(u"data/"_qs + fileName));
+    QFile file(QStringLiteral(SOAP_DATA "/") + fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
 }
 
@@ -230,7 +230,7 @@ void tst_QtSoapMessage::storedDocuments_areWellFormed()
     if (checker.isEmpty()) {
         QSKIP("xmllint is not installed");
     }
-    const QDir folder(QFINDTESTDATA("data"));
+    const QDir folder(QStringLiteral(SOAP_DATA));
     QStringList arguments{u"--noout"_qs};
     for (const QString &name : folder.entryList({u"*.xml"_qs}, QDir::Files)) {
         arguments.append(folder.filePath(name));
