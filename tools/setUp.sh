@@ -17,7 +17,7 @@ test_packages=(
     xvfb xauth xdotool x11-utils zenity
     libxml2-utils openssl python3-spyne python3-zeep python3-suds gsoap libgsoap-dev libsoap-lite-perl php-cli php-soap
     zip unzip libzip-dev chromium chromium-driver python3-selenium
-    pkexec dbus-daemon colord libglib2.0-bin gvfs gvfs-daemons
+    qt6-qpa-plugins pkexec dbus-daemon colord libglib2.0-bin gvfs gvfs-daemons
 )
 run_packages=(python3-spyne)
 bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev zip unzip libzip-dev)

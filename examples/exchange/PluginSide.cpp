@@ -46,12 +46,11 @@ QString processIn(const PhotoshopDataStructure &record)
     return id ? QString(u" from process "_qs + QString::number(*id)) : QString();
 }
 
-bool isFailure(const QString &reason)
+/*! False, after saying why. */
+bool failed(const QString &reason)
 {
-    if (!reason.isEmpty()) {
-        printError(reason);
-    }
-    return !reason.isEmpty();
+    printError(reason);
+    return false;
 }
 
 /*! Why \a process, which has been started, has come to no end of its own; empty if it has. */
@@ -97,7 +96,7 @@ bool CPluginSide::send(const CPackedFrame &frame, const QString &imageFile, cons
     m_sentAt = m_timer.elapsed() - start;
     // save() is true also where the image file could not be opened.
     if (!isSaved || fileSize(imagePath(m_recordPath)) != qint64(request.imageSize())) {
-        return !isFailure(u"%1 or its image can't be written"_qs.arg(QDir::toNativeSeparators(m_recordPath)));
+        return failed(u"%1 or its image can't be written"_qs.arg(QDir::toNativeSeparators(m_recordPath)));
     }
     printLine(QLatin1StringView("sent"),
               u"%1: %2 bytes, and a record of %3 entries, %4 bytes"_qs.arg(
@@ -114,8 +113,8 @@ bool CPluginSide::run(const OtherSide &otherSide)
     process.start(otherSide.program, QStringList{QDir::toNativeSeparators(m_recordPath)} + otherSide.arguments);
     const QString failure = waitForEnd(process, otherSide);
     m_runAt = m_timer.elapsed() - start;
-    if (isFailure(failure)) {
-        return false;
+    if (!failure.isEmpty()) {
+        return failed(failure);
     }
     m_exitStatus = process.exitCode();
     printLine(QLatin1StringView("ended"),
@@ -133,7 +132,7 @@ QImage CPluginSide::receive()
     if (!isRead) {
         const QString reason = fileSize(m_recordPath) < 0 ? u"there is no record any more: %1"_qs
                                                           : u"the record can't be read whole: %1"_qs;
-        isFailure(reason.arg(QDir::toNativeSeparators(m_recordPath)));
+        printError(reason.arg(QDir::toNativeSeparators(m_recordPath)));
         return QImage();
     }
     return isAnswered() ? takeImage(std::move(owned)) : QImage();
@@ -142,15 +141,15 @@ QImage CPluginSide::receive()
 bool CPluginSide::isAnswered()
 {
     if (!m_answer.data().contains(PluginKeys::exitCode)) { // the request still lies there
-        return !isFailure(u"the other side has left no answer"_qs);
+        return failed(u"the other side has left no answer"_qs);
     }
     printLine(QLatin1StringView("answer"),
               u"exit code %1%2"_qs.arg(QString::number(m_answer.exitCode()), processIn(m_answer)));
     if (m_answer.exitCode() != 0) {
-        return !isFailure(u"the other side has failed with exit code %1"_qs.arg(m_answer.exitCode()));
+        return failed(u"the other side has failed with exit code %1"_qs.arg(m_answer.exitCode()));
     }
     if (m_exitStatus != 0) {
-        return !isFailure(u"the other side has ended with status %1"_qs.arg(m_exitStatus));
+        return failed(u"the other side has ended with status %1"_qs.arg(m_exitStatus));
     }
     return true;
 }
@@ -159,14 +158,16 @@ QImage CPluginSide::takeImage(Pixels pixels)
 {
     const FrameSize size{m_answer.width(), m_answer.height(), m_answer.depth()};
     if (size != m_sentSize) {
-        isFailure(u"the answer is of another size: %1"_qs.arg(size.toString()));
+        printError(u"the answer is of another size: %1"_qs.arg(size.toString()));
         return QImage();
     }
-    if (isFailure(pixels ? QString() : whyNoPixels())) {
+    if (!pixels) {
+        printError(whyNoPixels());
         return QImage();
     }
     QImage image = imageOfFrame(std::move(pixels), size);
-    if (isFailure(image.isNull() ? u"the image that came back does not fit into memory"_qs : QString())) {
+    if (image.isNull()) {
+        printError(u"the image that came back does not fit into memory"_qs);
         return QImage();
     }
     image.setColorSpace(profileOf(m_answer));

@@ -30,7 +30,7 @@ constexpr int failedOnRequest = 3;
 
 /*!
     The answer takes the request's place, both files of it. That is safe because of the order in which the two sides
-   run: the plug-in has ended its save() before it starts this process, and reads again only when this one has ended.
+    run: the plug-in has ended its save() before it starts this process, and reads again when this one has ended.
 */
 bool answer(PhotoshopDataStructure &record, int exitCode, const char *pixels)
 {

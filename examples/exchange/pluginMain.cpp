@@ -134,6 +134,10 @@ bool run(const Options &options)
         printError(u"there is no folder for the record"_qs);
         return false;
     }
+    if (QFileInfo(options.image) == QFileInfo(path) || QFileInfo(options.image) == QFileInfo(imagePath(path))) {
+        printError(u"%1 would be overwritten by the record"_qs.arg(QDir::toNativeSeparators(options.image)));
+        return false;
+    }
     const QImage result = exchange(std::move(image), path, options);
     if (result.isNull()) {
         return false;

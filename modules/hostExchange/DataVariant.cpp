@@ -74,9 +74,11 @@ DataVariant DataVariant::fromUInt64(std::uint64_t value)
 
 DataVariant DataVariant::fromBytes(std::span<const unsigned char> value)
 {
-    using Vector = std::vector<unsigned char>;
-    Vector *bytes = value.empty() ? nullptr : std::make_unique<Vector>(value.begin(), value.end()).release();
-    return made(Bytes, &dataHolder::Value::bytes, bytes);
+    auto holder = std::make_shared<dataHolder>(Bytes);
+    if (!value.empty()) {
+        holder->value.bytes = std::make_unique<std::vector<unsigned char>>(value.begin(), value.end()).release();
+    }
+    return DataVariant(std::move(holder));
 }
 
 DataVariant DataVariant::fromBool(bool value)
@@ -86,8 +88,11 @@ DataVariant DataVariant::fromBool(bool value)
 
 DataVariant DataVariant::fromString(std::string_view value)
 {
-    std::string *text = value.empty() ? nullptr : std::make_unique<std::string>(value).release();
-    return made(String, &dataHolder::Value::text, text);
+    auto holder = std::make_shared<dataHolder>(String);
+    if (!value.empty()) {
+        holder->value.text = std::make_unique<std::string>(value).release();
+    }
+    return DataVariant(std::move(holder));
 }
 
 std::int32_t DataVariant::type() const

@@ -54,8 +54,9 @@ public:
 
         The result speaks for the data file alone: false where it can't be opened or ends too soon. \a imageData gets
         the pixels, or null where none are expected, or the image file can't be read, is not exactly imageSize() bytes
-        long or does not fit into memory; the table decides, also when it is an old one because no new one was read. The
-       caller owns them and frees them by "::operator delete(pixels)".
+        long or does not fit into memory; the table decides, also when it is an old one because no new one was read.
+
+        The caller owns the pixels and frees them by "::operator delete(pixels)".
     */
     [[nodiscard]] virtual bool load(char **imageData);
 
@@ -92,8 +93,8 @@ public:
     /*!
         Reads a table in place of the present one; does nothing on a stream that is not good.
 
-        What is damaged gives the entries before the damage, and what can be made out behind it; the stream has failed
-        where it was asked for more than there is. Lengths that lie cost no memory: bytes are read in pieces.
+        What is damaged gives the entries before the damage, and what can be made out behind it; where more was wanted
+        than there is, the stream is no longer good. A length costs no memory beyond the bytes that are really there.
     */
     void deserialize(std::istream &stream);
 

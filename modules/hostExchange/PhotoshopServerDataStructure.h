@@ -19,8 +19,8 @@ public:
     ~PhotoshopServerDataStructure() override;
 
     /*!
-        As load() of the base. Where the data file can't be read, "exitCode" becomes -1 too. A run that failed gives
-       true and no pixels: its record was read.
+        As load() of the base. Where the data file can't be read, "exitCode" becomes -1 too. A run that failed
+        gives true and no pixels: its record was read.
     */
     [[nodiscard]] bool load(char **imageData) override;
 
@@ -33,7 +33,7 @@ public:
     /*! Makes "exitCode" -1. */
     void setFailed();
 
-    /*! Deletes the file at imageFilePath(), where there is one. */
+    /*! Deletes what is at imageFilePath(): a file; on Linux also an empty folder. */
     void removeImageFile();
 };
 

@@ -14,7 +14,7 @@ using DataVariant = PhotoshopDataStructure::DataVariant;
 
 namespace {
 
-constexpr std::uint64_t pieceSize = 65536; // a length that lies costs no more than this beyond what is there
+constexpr std::uint64_t pieceSize = 65536; // a length that lies costs little more than what is there
 
 template <typename Number>
 bool readNumber(std::istream &stream, Number &number)

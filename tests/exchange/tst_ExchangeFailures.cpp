@@ -23,6 +23,8 @@ private Q_SLOTS:
     void failOption_isCarriedToTheOtherSide();
     void badImage_isTold_data();
     void badImage_isTold();
+    void imageWhereTheRecordGoes_isKept_data();
+    void imageWhereTheRecordGoes_isKept();
     void missingProgram_isTold();
     void badOtherSide_isTold_data();
     void badOtherSide_isTold();
@@ -83,6 +85,24 @@ void tst_ExchangeFailures::badImage_isTold()
     QVERIFY(writeFile(m_folder->filePath(u"text.png"_qs), "This is no image."));
     compareFailure(m_folder->plugin({name, u"--output"_qs, u"out.png"_qs}),
                    u"%1 can't be read: %2"_qs.arg(name, reason));
+}
+
+void tst_ExchangeFailures::imageWhereTheRecordGoes_isKept_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("data file") << u"record"_qs;
+    QTest::newRow("image file") << u"record-image"_qs;
+}
+
+void tst_ExchangeFailures::imageWhereTheRecordGoes_isKept()
+{
+    QFETCH(const QString, name);
+    const QImage image = noise(3, 2, 8);
+    QVERIFY(image.save(m_folder->filePath(name), "PNG"));
+    compareFailure(m_folder->plugin({name, u"--output"_qs, u"out.png"_qs, u"--folder"_qs, u"."_qs}),
+                   u"%1 would be overwritten by the record"_qs.arg(name));
+    QVERIFY(!QImage(m_folder->filePath(name), "PNG").isNull());
 }
 
 void tst_ExchangeFailures::missingProgram_isTold()

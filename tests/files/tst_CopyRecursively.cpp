@@ -29,6 +29,7 @@ private Q_SLOTS:
     void file_intoMissingFolder_isRefused();
     void missingSource_isRefused();
 
+    void emptyTarget_isRefused();
     void folder_intoMissingFolders_makesThem();
     void folder_isCopiedWithAllBelow();
     void folder_intoExistingOne_keepsWhatElseIsThere();
@@ -105,6 +106,14 @@ void tst_CopyRecursively::missingSource_isRefused()
     QTest::ignoreMessage(QtWarningMsg, "QFile::copy: Empty or null file name"); // Qt's own
     QVERIFY(!copyRecursively(QString(), at(u"target"_qs)));
     QCOMPARE(treeOf(m_folder->path()), QStringList());
+}
+
+void tst_CopyRecursively::emptyTarget_isRefused()
+{
+    QVERIFY(FileTrees::make(at(u"source"_qs), {u"a"_qs}));
+    QVERIFY(!copyRecursively(at(u"source"_qs), QString()));
+    QVERIFY(!copyRecursively(at(u"source/a"_qs), QString()));
+    QCOMPARE(treeOf(m_folder->path()), (QStringList{u"source/"_qs, u"source/a=a"_qs}));
 }
 
 void tst_CopyRecursively::folder_intoMissingFolders_makesThem()

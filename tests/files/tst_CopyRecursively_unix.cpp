@@ -27,6 +27,7 @@ private Q_SLOTS:
 
     void hiddenEntries_areLeftOut();
     void hiddenSource_isCopied();
+    void pipeAsSource_isRefused();
     void pipesAndBrokenLinks_areLeftOut();
     void links_areCopiedAsWhatTheyLeadTo();
     void linkAsSource_isFollowed();
@@ -75,6 +76,13 @@ void tst_CopyRecursively_unix::hiddenSource_isCopied()
     QCOMPARE(treeOf(m_folder->path()),
              (QStringList{u".file2=.file"_qs, u".file=.file"_qs, u".folder/"_qs, u".folder/a=.folder/a"_qs,
                           u".folder2/"_qs, u".folder2/a=.folder/a"_qs}));
+}
+
+void tst_CopyRecursively_unix::pipeAsSource_isRefused()
+{
+    QVERIFY(FileTraps::makePipe(at(u"pipe"_qs)));
+    QVERIFY(!copyRecursively(at(u"pipe"_qs), at(u"target"_qs)));
+    QVERIFY(!QFileInfo::exists(at(u"target"_qs)));
 }
 
 void tst_CopyRecursively_unix::pipesAndBrokenLinks_areLeftOut()

@@ -7,12 +7,14 @@
 #include <QtTest/QTest>
 
 #include <cmath>
+#include <type_traits>
 
 using namespace ZYX_zglv6;
 
 namespace {
 
-const QPolygonF square({{10, 20}, {10, 10}, {20, 10}, {20, 20}}); // the corners of the next, as it counts them
+const QPolygonF
+    square({{10, 20}, {10, 10}, {20, 10}, {20, 20}}); // the corners of squareRect, in the order of its edges
 const QRectF squareRect(10, 10, 10, 10);
 
 } // namespace
@@ -257,6 +259,7 @@ void tst_GeometryHelpers::intersectedPoint_isOnTheFirstEdge()
 
 void tst_GeometryHelpers::intersectedPoint_leavesTheLine()
 {
+    static_assert(std::is_same_v<decltype(auxGetIntersectedPoint), QPointF(const QRectF &, QLineF &)>);
     const QLineF before(60.25, 31, -7, 30.5);
     QLineF line = before;
 

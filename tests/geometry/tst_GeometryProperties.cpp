@@ -17,7 +17,7 @@ using namespace ZYX_zglv6;
 namespace {
 
 constexpr int cases = 5000;
-constexpr int decidedAtLeast = cases * 9 / 10; // of those that rounding might decide, only a few may come along
+constexpr int decidedAtLeast = cases * 9 / 10; // rounding may decide the rest
 constexpr double rounding = 1e-9; // shapes are some hundred units away, with coordinates good to 1e-13
 
 bool isNear(const QPointF &a, const QPointF &b, double distance)
@@ -25,9 +25,9 @@ bool isNear(const QPointF &a, const QPointF &b, double distance)
     return std::abs(a.x() - b.x()) <= distance && std::abs(a.y() - b.y()) <= distance;
 }
 
-QString told(int number, const QPointF &p, const QPointF &found)
+QString told(int number, const QPointF &first, const QPointF &second)
 {
-    return u"case %1: at %2 found %3"_qs.arg(number).arg(exact(p), exact(found));
+    return u"case %1: %2 and %3"_qs.arg(number).arg(exact(first), exact(second));
 }
 
 /*! A point inside: a mean of the corners, each with a weight of its own. */
@@ -43,7 +43,7 @@ QPointF pointInside(ByHand::Dice &dice, const QPolygonF &convex)
     return sum / weights;
 }
 
-/*! A line through the lower left of the coordinates: flat, upright or neither. */
+/*! A line between two points: flat, upright or neither. */
 QLineF lineOfAnyDirection(ByHand::Dice &dice, int number)
 {
     QLineF line = dice.line(0, 100);

@@ -10,6 +10,8 @@
 #include <QtCore/QScopeGuard>
 #include <QtTest/QTest>
 
+#include <sstream>
+
 #include <limits>
 
 using namespace TestSupport;
@@ -45,6 +47,7 @@ private Q_SLOTS:
     void save_writesBothFiles_data();
     void save_writesBothFiles();
     void save_keepsTheOtherEntries();
+    void save_storesHeightWidthAndDepthInThisOrder();
     void save_nullImageData_leavesTheImageFile();
     void save_sizeOf0_leavesTheImageFile_data();
     void save_sizeOf0_leavesTheImageFile();
@@ -125,6 +128,20 @@ void tst_RecordFiles::save_keepsTheOtherEntries()
     expected.merge(plainTable(others));
     QCOMPARE(expected.size(), std::size_t{12});
     QVERIFY(tableIn(files.dataFile()) == expected);
+}
+
+void tst_RecordFiles::save_storesHeightWidthAndDepthInThisOrder()
+{
+    const RecordFiles files;
+    PhotoshopDataStructure expected;
+    expected.setValue("height", 2); // the order shows in the file: a table walks its keys by how they came in
+    expected.setValue("width", 1);
+    expected.setValue("depth", 8);
+    std::ostringstream bytes;
+    expected.serialize(bytes);
+
+    QVERIFY(PhotoshopDataStructure(files.path()).save(nullptr, 1, 2, 8));
+    QCOMPARE(readFile(files.dataFile()), QByteArray::fromStdString(bytes.str()));
 }
 
 void tst_RecordFiles::save_nullImageData_leavesTheImageFile()

@@ -82,10 +82,11 @@ private Q_SLOTS:
     void save_sizeOf0_neverOpensTheImageFile();
 
     void load_nullImageData_neverOpensTheImageFile();
-    void load_serverRunThatFailed_neverOpensTheImageFile_data();
-    void load_serverRunThatFailed_neverOpensTheImageFile();
+    void load_serverRun_opensTheImageFileAfterSuccessOnly_data();
+    void load_serverRun_opensTheImageFileAfterSuccessOnly();
     void load_imageIsAPipe_isTrueWithoutPixels();
-    void load_pathIsBytes();
+    void load_imageThatEndsTooSoon_isTrueWithoutPixels();
+    void path_isBytes();
 };
 
 void tst_RecordFiles_unix::save_dataFileOnAFullDisk_isFalse_data()
@@ -177,7 +178,7 @@ void tst_RecordFiles_unix::load_nullImageData_neverOpensTheImageFile()
     QVERIFY(watch.wasOpened());
 }
 
-void tst_RecordFiles_unix::load_serverRunThatFailed_neverOpensTheImageFile_data()
+void tst_RecordFiles_unix::load_serverRun_opensTheImageFileAfterSuccessOnly_data()
 {
     QTest::addColumn<std::shared_ptr<DataVariant>>("exitCode");
     QTest::addColumn<bool>("wasOpened");
@@ -192,7 +193,7 @@ void tst_RecordFiles_unix::load_serverRunThatFailed_neverOpensTheImageFile_data(
     row("none", DataVariant(), false);
 }
 
-void tst_RecordFiles_unix::load_serverRunThatFailed_neverOpensTheImageFile()
+void tst_RecordFiles_unix::load_serverRun_opensTheImageFileAfterSuccessOnly()
 {
     QFETCH(std::shared_ptr<DataVariant>, exitCode);
     QFETCH(bool, wasOpened);
@@ -228,7 +229,23 @@ void tst_RecordFiles_unix::load_imageIsAPipe_isTrueWithoutPixels()
     QVERIFY(!loading.pixels);
 }
 
-void tst_RecordFiles_unix::load_pathIsBytes()
+void tst_RecordFiles_unix::load_imageThatEndsTooSoon_isTrueWithoutPixels()
+{
+    const QString shorterThanItSays = u"/sys/devices/system/cpu/online"_qs;
+    if (QFileInfo(shorterThanItSays).size() != 4096 || readFile(shorterThanItSays).size() >= 4096) {
+        QSKIP("no file here is shorter than the system says");
+    }
+    const RecordFiles files;
+    QVERIFY(QFile::link(shorterThanItSays, files.imageFile()));
+    PhotoshopDataStructure record(files.path());
+    QVERIFY(record.save(nullptr, 10923, 1, 1));
+    QCOMPARE(record.imageSize(), 4096U);
+    const Loading loading = loaded(record);
+    QVERIFY(loading.result);
+    QVERIFY(!loading.pixels);
+}
+
+void tst_RecordFiles_unix::path_isBytes()
 {
     const RecordFiles files;
     const std::string path = files.path() + " \xd0\xb7\xff"; // no UTF-8 at its end

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void dataHolder_freesWhatItOwns_data();
     void dataHolder_freesWhatItOwns();
     void record_freesEachValue();
+    void save_pixelsAreNotCopied();
     void load_pixelsAreOneBlockOfTheirSize();
     void load_pixelsThatDoNotFitIntoMemory_areNull();
     void load_imageOfAnotherLength_allocatesNothingForIt();
@@ -167,6 +168,16 @@ void tst_RecordMemory::record_freesEachValue()
         QVERIFY(watch.liveBlocks() > 0);
     }
     QCOMPARE(watch.liveBlocks(), std::ptrdiff_t{0});
+}
+
+void tst_RecordMemory::save_pixelsAreNotCopied()
+{
+    const QTemporaryDir folder;
+    PhotoshopDataStructure record(QFile::encodeName(folder.filePath(u"record.data"_qs)).toStdString());
+    const auto pixels = std::make_unique<char[]>(imageSize);
+    const HeapWatch watch;
+    QVERIFY(record.save(pixels.get(), imageWidth, imageHeight, 8));
+    QVERIFY2(watch.requestedBytes() < 100'000, QByteArray::number(quint64(watch.requestedBytes())));
 }
 
 void tst_RecordMemory::load_pixelsAreOneBlockOfTheirSize()

@@ -42,7 +42,8 @@ public:
 
     /*!
         Of what the path leads to, when it is a link. Other than above, the path is in the system's narrow encoding,
-        which on Windows need not be UTF-8.
+        which on Windows need not be UTF-8. The other two pass their path on as it is: beyond ASCII they may be false
+        there, with the file or folder made; bytes that are nothing in that encoding may throw std::system_error.
     */
     [[nodiscard]] bool setPathPermissions(const std::string &path, const std::string &permissions) const;
 

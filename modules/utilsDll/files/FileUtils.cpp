@@ -72,8 +72,12 @@ QString comparedText(const QFileInfo &file, FileManagement::CompareCondition con
 QString canonicalPathOf(const QString &path)
 {
     const QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    return info.exists() || info.isRoot() ? info.canonicalFilePath()
-                                          : canonicalPathOf(info.path()) + u'/' + info.fileName();
+    if (info.exists()) {
+        return info.canonicalFilePath();
+    }
+    const QString folder = info.path();
+    const bool isTop = folder == info.filePath(); // of a drive that is not there
+    return isTop ? folder : canonicalPathOf(folder) + u'/' + info.fileName();
 }
 
 /*! \a around: the canonical paths of the folders that are being copied. */
@@ -160,7 +164,7 @@ bool isEqualFileOrDirNames(const QString &a, const QString &b, FileManagement::C
 
 bool copyRecursively(const QString &source, const QString &target)
 {
-    return copyEntry(source, target, {});
+    return !target.isEmpty() && copyEntry(source, target, {}); // below no folder would be the file system's root
 }
 
 bool removeDirectoryContent(const QDir &dir)

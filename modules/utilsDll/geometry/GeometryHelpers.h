@@ -36,8 +36,8 @@ UTILSDLL_EXPORT bool auxIsPointBelongsLine(const QLineF &line, const QPointF &p,
 
 /*!
     The foot of \a p on the first line that it belongs to within \a tolerance; else the nearest foot that lies on its
-    segment and is not behind another line. Of equally near ones the first; (0, 0) if there is none, and for a
-    rectangle without width or height.
+    segment and is not behind another line, unless it lies on that one too. Of equally near ones the first; (0, 0) if
+    there is none, and for a rectangle without width or height.
 */
 UTILSDLL_EXPORT QPointF auxGetPerpendicularToNearestLine(const QList<QLineF> &lines, const QPointF &p,
                                                          double tolerance);
@@ -49,7 +49,8 @@ UTILSDLL_EXPORT QPointF auxGetIntersectedPoint(const QRectF &rect, QLineF &line)
 
 /*!
     The part of a parallel to \a line, through the centre of the bounding box of \a points, between its first and its
-    second crossing with their outline. The outline has to have two, as each convex one has; the line is null without.
+    second crossing with their outline; a corner is two. The outline has to have two, as each convex one with an area
+    has; the line is null without.
 */
 UTILSDLL_EXPORT QLineF auxGetParallelLine(const QList<QPointF> &points, const QLineF &line);
 
