@@ -35,7 +35,7 @@ private Q_SLOTS:
     void saveCopy_copiesUnderAValidName_data();
     void saveCopy_copiesUnderAValidName();
     void photographsBehind_leavesOtherEntriesOut();
-    void installForAllUsers_malformedPath_isFalse();
+    void installForAllUsers_nobodyToAsk_isFalse();
     void handleAt_staysOnTheOutline();
     void answer_comesBackWithTheImage();
     void answer_ofAFailure_hasNoImage();
@@ -78,7 +78,7 @@ void tst_FileSnippets::photographsBehind_leavesOtherEntriesOut()
     QCOMPARE(names, QStringList({u"B.JPG"_qs, u"d.jpg"_qs}));
 }
 
-void tst_FileSnippets::installForAllUsers_malformedPath_isFalse()
+void tst_FileSnippets::installForAllUsers_nobodyToAsk_isFalse()
 {
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", QFile::encodeName(m_sandbox.filePath(u"nothing"_qs))); // nobody is asked

@@ -28,7 +28,7 @@ class Host : public QObject
 public:
     explicit Host(quint32 seed);
 
-    /*! Works for \a seconds, ends all that it began and looks whether it has ended. */
+    /*! Works for \a seconds, and on until each thing has come once; ends all that it began and looks whether it has. */
     void run(int seconds);
     bool report() const;
 
@@ -45,6 +45,7 @@ private:
     void step();
     void quietPhase();
     void finish();
+    QStringList missing() const;
     void waitForReplayTimer();
     void checkProbe();
     bool waitUntil(const std::function<bool()> &isDone, const QString &problem);

@@ -35,8 +35,8 @@ public:
 
     /*!
         Makes the folder, and those above it, after the system has asked the user for an administrator's rights; blocks
-        while it asks. False if the user refuses. Windows does not wait for the folder: then the permissions may come
-        too early, which is false too, though the folder comes into being.
+        while it asks. False if the user refuses, or on Windows the path has a quotation mark. Windows does not wait for
+       the folder: then the permissions may come too early, which is false too, though the folder comes into being.
     */
     [[nodiscard]] bool createFolder(const std::string &path, const std::string &permissions) const;
 

@@ -80,16 +80,28 @@ QString canonicalPathOf(const QString &path)
     return isTop ? folder : canonicalPathOf(folder) + u'/' + info.fileName();
 }
 
-/*! \a around: the canonical paths of the folders that are being copied. */
-bool copyEntry(const QString &source, const QString &target, const QStringList &around)
+/*! By the system's own rules for letters; \a path need not be there yet. */
+bool isBelow(const QString &path, const QFileInfo &folder)
+{
+    QString place = canonicalPathOf(path);
+    for (QString above = QFileInfo(place).path(); above != place; above = QFileInfo(place).path()) {
+        if (QFileInfo(above) == folder) {
+            return true;
+        }
+        place = above;
+    }
+    return false;
+}
+
+/*! \a around: the folders that are being copied. */
+bool copyEntry(const QString &source, const QString &target, const QFileInfoList &around)
 {
     const QFileInfo info(source);
     if (!info.isDir()) {
         return (info.isFile() || !info.exists()) && QFile::copy(source, target); // a pipe would never end
     }
-    const QString folder = info.canonicalFilePath();
     // A link back to a folder above, or to one around the copy: it would copy what it has just copied, on and on.
-    if (around.contains(folder) || canonicalPathOf(target).startsWith(folder.endsWith(u'/') ? folder : folder + u'/')) {
+    if (around.contains(info) || isBelow(target, info)) {
         return false;
     }
     if (!QDir(target).exists() && !QDir().mkpath(target)) {
@@ -98,7 +110,7 @@ bool copyEntry(const QString &source, const QString &target, const QStringList &
     const QStringList names = QDir(source).entryList(QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
     return std::all_of(names.begin(), names.end(), [&](const QString &name) {
         return copyEntry(nativeAndClean(source + QDir::separator() + name),
-                         nativeAndClean(target + QDir::separator() + name), around + QStringList{folder});
+                         nativeAndClean(target + QDir::separator() + name), around + QFileInfoList{info});
     });
 }
 
@@ -164,7 +176,7 @@ bool isEqualFileOrDirNames(const QString &a, const QString &b, FileManagement::C
 
 bool copyRecursively(const QString &source, const QString &target)
 {
-    return !target.isEmpty() && copyEntry(source, target, {}); // below no folder would be the file system's root
+    return !target.isEmpty() && copyEntry(source, target, {}); // "" and a name would be a place in the root folder
 }
 
 bool removeDirectoryContent(const QDir &dir)

@@ -56,7 +56,7 @@ UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QString &a, const QString &b,
     and system entries are left out; links are copied as what they lead to.
 
     False: something could not be copied, or is there already. That ends the copy, and what was copied stays. A folder
-    is not copied into itself.
+    is not copied into itself, and nothing to an empty \a target.
 */
 [[nodiscard]] UTILSDLL_EXPORT bool copyRecursively(const QString &source, const QString &target);
 
@@ -68,19 +68,21 @@ UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QString &a, const QString &b,
 */
 [[nodiscard]] UTILSDLL_EXPORT bool removeDirectoryContent(const QDir &dir);
 
-/*! Also for folders, but not to another volume. False if there is something at \a newPath: it is never replaced. */
+/*! Also for folders; only files may go to another volume. False if there is something at \a newPath: it is never
+ * replaced. */
 [[nodiscard]] UTILSDLL_EXPORT bool renameFile(const QString &oldPath, const QString &newPath);
 
 /*!
     The entry after or before \a path in its folder, for stepping through it: files of any type, hidden ones and
-   folders, in the order of their names, which ignores case. Empty at either end, and for a path that is not there.
+   folders, in the order of their names, which ignores case. Empty at either end, and for a name that is not
+    there in these very letters.
 
     Lists the whole folder at each call.
 */
 UTILSDLL_EXPORT QString getNextFilePath(const QString &path);
 UTILSDLL_EXPORT QString getPreviouseFilePath(const QString &path);
 
-/*! Moves a file or folder to the recycle bin, without asking. */
+/*! Moves a file or folder to the recycle bin, without asking. On Windows \a path has native separators. */
 [[nodiscard]] UTILSDLL_EXPORT FileManagement::ErrorCodes moveFileToTrash(const QString &path);
 
 /*!

@@ -39,7 +39,7 @@ QString missingDrive()
 
 } // namespace
 
-class tst_FileAttributes_win : public QObject
+class tst_FileUtils_win : public QObject
 {
     Q_OBJECT
 
@@ -47,8 +47,10 @@ private Q_SLOTS:
     void init();
 
     void copyRecursively_leavesHiddenAndSystemEntriesOut();
+    void copyRecursively_intoItselfInOtherLetters_isRefused();
     void copyRecursively_ontoMissingDrive_isRefused();
     void removeDirectoryContent_removesHiddenAndSystemFiles();
+    void moveFileToTrash_takesTheFile();
     void neighbours_areAlsoHiddenAndSystemFiles();
 
 private:
@@ -60,7 +62,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void tst_FileAttributes_win::init()
+void tst_FileUtils_win::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(FileTrees::make(at(u"source"_qs), {u"a"_qs, u"hidden"_qs, u"sub/b"_qs, u"system"_qs}));
@@ -68,13 +70,19 @@ void tst_FileAttributes_win::init()
     QVERIFY(setAttributes(at(u"source/system"_qs), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
 }
 
-void tst_FileAttributes_win::copyRecursively_leavesHiddenAndSystemEntriesOut()
+void tst_FileUtils_win::copyRecursively_leavesHiddenAndSystemEntriesOut()
 {
     QVERIFY(copyRecursively(at(u"source"_qs), at(u"target"_qs)));
     QCOMPARE(treeOf(at(u"target"_qs)), (QStringList{u"a=a"_qs, u"sub/"_qs, u"sub/b=sub/b"_qs}));
 }
 
-void tst_FileAttributes_win::copyRecursively_ontoMissingDrive_isRefused()
+void tst_FileUtils_win::copyRecursively_intoItselfInOtherLetters_isRefused()
+{
+    QVERIFY(!copyRecursively(at(u"source"_qs), at(u"SOURCE/new"_qs)));
+    QVERIFY(!QFileInfo::exists(at(u"source/new"_qs)));
+}
+
+void tst_FileUtils_win::copyRecursively_ontoMissingDrive_isRefused()
 {
     const QString drive = missingDrive();
     if (drive.isEmpty()) {
@@ -85,13 +93,20 @@ void tst_FileAttributes_win::copyRecursively_ontoMissingDrive_isRefused()
     QVERIFY(!copyRecursively(at(u"source/a"_qs), drive + u"a"_qs));
 }
 
-void tst_FileAttributes_win::removeDirectoryContent_removesHiddenAndSystemFiles()
+void tst_FileUtils_win::removeDirectoryContent_removesHiddenAndSystemFiles()
 {
     QVERIFY(removeDirectoryContent(QDir(at(u"source"_qs))));
     QCOMPARE(treeOf(at(u"source"_qs)), QStringList{u"sub/"_qs});
 }
 
-void tst_FileAttributes_win::neighbours_areAlsoHiddenAndSystemFiles()
+void tst_FileUtils_win::moveFileToTrash_takesTheFile()
+{
+    QCOMPARE(moveFileToTrash(QDir::toNativeSeparators(at(u"source/a"_qs))), FileManagement::FileOperationSucceeded);
+    QVERIFY(!QFileInfo::exists(at(u"source/a"_qs)));
+    QVERIFY(QFileInfo::exists(at(u"source/sub/b"_qs)));
+}
+
+void tst_FileUtils_win::neighbours_areAlsoHiddenAndSystemFiles()
 {
     const QStringList names{u"a"_qs, u"hidden"_qs, u"sub"_qs, u"system"_qs};
     for (qsizetype i = 0; i + 1 < names.size(); ++i) {
@@ -100,5 +115,5 @@ void tst_FileAttributes_win::neighbours_areAlsoHiddenAndSystemFiles()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_FileAttributes_win)
-#include "tst_FileAttributes_win.moc"
+QTEST_GUILESS_MAIN(tst_FileUtils_win)
+#include "tst_FileUtils_win.moc"
