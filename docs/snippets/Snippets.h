@@ -18,7 +18,10 @@
 
 class QAction;
 class QAtomicInt;
+class QImage;
 class QObject;
+class QPainter;
+class QPoint;
 class QPolygonF;
 class QUrl;
 class QWidget;
@@ -132,6 +135,11 @@ QPointF handleAt(const QPolygonF &photograph, const QPointF &mouse);
 bool handOver(const std::string &path, const char *pixels, int width, int height);
 bool answer(const std::string &path, const std::function<bool(char *pixels, std::uint64_t size)> &develop);
 int readAnswer(const std::string &path, const std::function<void(const char *pixels, std::uint64_t size)> &use);
+
+// look.cpp
+
+void paintPreview(QPainter &painter, const QImage &photograph, const QPoint &place);
+bool isVisiblyChanged(const QImage &before, const QImage &after);
 
 // platform.cpp
 

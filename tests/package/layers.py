@@ -47,6 +47,7 @@ LIBRARIES_OF_ROOM = {
     "hostExchange": {"standard library"},
     "platform": {"standard library", "QtCore", "QtGui", "QtDBus", "operating system"},
     "loggerSupport": LIBRARIES | {"log4cplus"},
+    "utilsDll/look": LIBRARIES | {"processor"},
     "utilsDll/crashReport": LIBRARIES | {"minizip", "zlib"},
 }
 
@@ -76,6 +77,8 @@ def library_of(header):
         return header.split("/")[0]
     if header == "zlib.h":
         return "zlib"
+    if header == "immintrin.h":
+        return "processor"
     return "standard library" if re.fullmatch(r"[a-z_0-9]+", header) else "operating system"
 
 

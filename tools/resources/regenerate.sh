@@ -46,4 +46,6 @@ for size in 16 32 48 64 128 256 512 1024; do
     rsvg-convert --width "$size" --height "$size" --output "$icons/logo_$size.png" "$resources/artwork/$drawing"
 done
 
+python3 "$root/tools/resources/makeShadows.py" "$resources/icons/backgroungs"
+
 python3 "$root/tools/calibration/makeCatalogue.py"

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "utilsDll/look/ImageComparison.h"
+
+#include "utilsDll/look/ImageDifference_p.h"
+
+#include <QtGui/QImage>
+
+#include <algorithm>
+#include <cstdint>
+
+namespace ZYX_zglv6 {
+
+namespace {
+
+/*! As many as a row has, whatever its format. */
+qsizetype pixelsInRow(const QImage &image)
+{
+    return std::min<qsizetype>(image.width(), image.bytesPerLine() / qsizetype(sizeof(std::uint32_t)));
+}
+
+const std::uint32_t *rowOf(const QImage &image, int y)
+{
+    return reinterpret_cast<const std::uint32_t *>(image.constScanLine(y)); // QImage aligns its rows
+}
+
+std::int32_t channelCount(const QImage &image)
+{
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(image.width())
+                                     * static_cast<std::uint32_t>(image.height()) * 3U);
+}
+
+} // namespace
+
+imgCmpResult compareImages(const QImage &first, const QImage &second, double threshold, double *difference)
+{
+    if (first.isNull() || second.isNull()) {
+        return imgCmpNullImage;
+    }
+    if (first.size() != second.size()) {
+        return imgCmpSizeDiffers;
+    }
+    const ImageDifference::AddPixels add = ImageDifference::fastest();
+    const auto count = static_cast<std::size_t>(std::min(pixelsInRow(first), pixelsInRow(second)));
+    double sum = 0;
+    for (int y = 0; y < first.height(); ++y) {
+        sum = add(sum, rowOf(first, y), rowOf(second, y), count);
+    }
+    const double percent = sum * 100.0 / channelCount(first);
+    if (difference) {
+        *difference = percent;
+    }
+    return percent > threshold ? imgCmpDifferent : imgCmpEqual;
+}
+
+} // namespace ZYX_zglv6
