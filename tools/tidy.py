@@ -27,8 +27,8 @@ KEPT_DAYS = 30
 
 # the preset whose build knows the sources of a folder
 PRESETS = {"modules": "dev", "examples": "dev", "tests": "dev", "docs": "dev", "benchmarks": "release", "fuzz": "asan"}
-# sources of other builds: Windows, and the project of the installation test
-OTHERS = re.compile(r"_win\.cpp$|/foreignHost/")
+# sources of other builds: Windows, other processors, and the project of the installation test
+OTHERS = re.compile(r"_win\.cpp$|_plain\.cpp$|/foreignHost/")
 # what only the other compiler, or a build with precompiled headers, understands
 FOREIGN = re.compile(r" -Winvalid-pch| -fpch-preprocess| (-Xclang )?-include(-pch)? (-Xclang )?\S*cmake_pch\.hxx(\.pch)?"
                      r"| -Xclang -fno-pch-timestamp")
@@ -99,14 +99,14 @@ def main():
     configuration = version + (ROOT / ".clang-tidy").read_bytes()
     databases = {preset: commands(preset) for preset in {PRESETS[name.split("/")[0]] for name in names}}
     unclean = 0
+    work = {}
+    for name in names:
+        preset = PRESETS[name.split("/")[0]]
+        work[name] = databases[preset].get(str(ROOT / name)), preset
+        if work[name][0] is None:
+            sys.exit(f"{name} is no source of the preset {preset}")
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        jobs = {}
-        for name in names:
-            preset = PRESETS[name.split("/")[0]]
-            entry = databases[preset].get(str(ROOT / name))
-            if entry is None:
-                sys.exit(f"{name} is no source of the preset {preset}")
-            jobs[name] = pool.submit(check, entry, preset, configuration)
+        jobs = {name: pool.submit(check, *where, configuration) for name, where in work.items()}
         for name, job in jobs.items():
             if job.result():
                 unclean += 1

@@ -8,9 +8,9 @@
 #include <QtTest/QTest>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <future>
-#include <vector>
 
 using namespace ZYX_zglv6;
 
@@ -384,9 +384,9 @@ void tst_GeometryProperties::manyThreads_findTheSame()
         return found;
     };
     const QString alone = findAll();
-    std::vector<std::future<QString>> threads;
-    for (int i = 0; i < 4; ++i) {
-        threads.push_back(std::async(std::launch::async, findAll));
+    std::array<std::future<QString>, 4> threads;
+    for (std::future<QString> &thread : threads) {
+        thread = std::async(std::launch::async, findAll);
     }
     for (std::future<QString> &thread : threads) {
         QCOMPARE(thread.get(), alone);
