@@ -17,7 +17,11 @@ constexpr int notAuthorized = 127;
 QStringList modeOption(const QString &permissions)
 {
     static const QRegularExpression octal(QStringLiteral("\\A[0-7]{1,4}\\z"));
-    return octal.match(permissions).hasMatch() ? QStringList{QStringLiteral("-m"), permissions} : QStringList();
+    if (!octal.match(permissions).hasMatch()) {
+        return {};
+    }
+    constexpr int wholeMode = 5; // with fewer digits a folder keeps the set-group-ID bit of the one above
+    return {QStringLiteral("-m"), permissions.rightJustified(wholeMode, u'0')};
 }
 
 } // namespace

@@ -160,7 +160,7 @@ void tst_ElevatedFolder_unix::createFolder_refused_isLogged()
     const QString path = m_folder + u"/new gr\u00fcn";
     const FakePkexec pkexec(script);
     QVERIFY(!AdministratorActions().createFolder(path.toStdString(), "755"));
-    QCOMPARE(log.records(), QStringList{refusedLine(u"/bin/mkdir -p -m 755 -- \"" + path + u'"')});
+    QCOMPARE(log.records(), QStringList{refusedLine(u"/bin/mkdir -p -m 00755 -- \"" + path + u'"')});
     QVERIFY(!QFileInfo::exists(path));
     QCOMPARE(pkexec.calls().size(), 1); // nobody is asked twice
 }
@@ -194,7 +194,7 @@ void tst_ElevatedFolder_unix::createFolder_realProgramRefuses_isLogged()
     qputenv("SHELL", "/none"); // with one that the system doesn't know it refuses before it asks
     const TestLog log(m_sandbox.filePath(u"data"_qs));
     QVERIFY(!AdministratorActions().createFolder(QString(m_folder + u"/new").toStdString(), "755"));
-    QCOMPARE(log.records(), QStringList{refusedLine(u"/bin/mkdir -p -m 755 -- \"" + m_folder + u"/new\"")});
+    QCOMPARE(log.records(), QStringList{refusedLine(u"/bin/mkdir -p -m 00755 -- \"" + m_folder + u"/new\"")});
     QVERIFY(!QFileInfo::exists(m_folder + u"/new"));
 }
 

@@ -122,6 +122,7 @@ private Q_SLOTS:
     void drawSeparatorLine_withoutPainterOrLength_drawsNothing();
     void drawShadowRect_liesAroundTheRectangle_data();
     void drawShadowRect_liesAroundTheRectangle();
+    void drawShadowRect_hasEightPiecesInTheirPlaces();
     void drawShadowRect_growsPalerOutwards();
     void drawShadowRect_invalidRectangle_drawsNothing();
     void drawRoundedImageBorder_hasEightParts_data();
@@ -253,6 +254,26 @@ void tst_DrawingHelpers::drawShadowRect_liesAroundTheRectangle()
     }
 }
 
+void tst_DrawingHelpers::drawShadowRect_hasEightPiecesInTheirPlaces()
+{
+    const QRect rect(8, 6, 20, 12); // to (27, 17)
+    const QImage image = painted({40, 32}, [&rect](QPainter &painter) { drawShadowRect(&painter, rect); });
+    const QImage expected = painted({40, 32}, [](QPainter &painter) {
+        const auto piece = [](const char *name) {
+            return QPixmap(u":/icons/backgroungs/preview-shadow-%1.png"_qs.arg(QLatin1String(name)));
+        };
+        painter.drawPixmap(5, 6, piece("left-top"));
+        painter.drawPixmap(5, 6, 3, 12, piece("left"));
+        painter.drawPixmap(5, 18, piece("left-bottom"));
+        painter.drawPixmap(8, 18, 20, 5, piece("bottom"));
+        painter.drawPixmap(28, 18, piece("right-bottom"));
+        painter.drawPixmap(28, 6, 3, 12, piece("right"));
+        painter.drawPixmap(28, 5, 3, 1, piece("right-top"));
+        painter.drawPixmap(8, 5, 20, 1, piece("top"));
+    });
+    QCOMPARE(image, expected);
+}
+
 void tst_DrawingHelpers::drawShadowRect_growsPalerOutwards()
 {
     const QRect rect(8, 6, 20, 12);
@@ -371,6 +392,11 @@ void tst_DrawingHelpers::paintIcon_ignoringTheRatio_getsTheRectangle()
     });
     QCOMPARE(inked(image).size(), QSize(16, 32)); // a pixmap is not enlarged
     QVERIFY((inked(image).center() - QRect(10, 10, 100, 100).center()).manhattanLength() <= 1);
+
+    const QImage fitted = painted({120, 120}, [&pixmap](QPainter &painter) {
+        paintIcon(&painter, QIcon(pixmap), QRect(10, 10, 100, 100), Qt::KeepAspectRatio, QIcon::Normal, QIcon::Off);
+    });
+    QCOMPARE(inked(fitted).size(), QSize(16, 32));
 
     QList<RecordingIcon::Call> calls;
     const QIcon icon(new RecordingIcon({{16, 32}}, calls));

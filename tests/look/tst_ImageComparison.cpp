@@ -250,7 +250,7 @@ void tst_ImageComparison::partOfAnImage_isReadByItsRows()
 {
     QRandomGenerator dice(5);
     const QImage whole = painted({1200, 20}, [&dice] { return dice.generate(); });
-    const QImage part(whole.constBits() + 4 * 100, 1000, 20, whole.bytesPerLine(), QImage::Format_RGB32);
+    const QImage part(whole.constBits() + qsizetype(4) * 100, 1000, 20, whole.bytesPerLine(), QImage::Format_RGB32);
     const QImage copy = part.copy();
     QVERIFY(part.bytesPerLine() != copy.bytesPerLine());
     QCOMPARE(compared(part, copy, 0).difference, 0.0);

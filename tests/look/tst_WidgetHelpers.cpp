@@ -9,6 +9,8 @@
 #include <QtGui/QAction>
 #include <QtGui/QActionEvent>
 #include <QtGui/QCursor>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPointingDevice>
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QDialog>
@@ -21,7 +23,7 @@ using namespace ZYX_zglv6;
 
 namespace {
 
-/*! Which events of some kinds an object got, and whether an Enter was a QEnterEvent. */
+/*! Which events of some kinds an object got. */
 class EventList : public QObject
 {
 public:
@@ -37,10 +39,38 @@ public:
         if (type == QEvent::Enter || type == QEvent::Leave || type == QEvent::MouseMove) {
             types.append(type);
         }
+        enterEvents += dynamic_cast<QEnterEvent *>(event) ? 1 : 0;
+        if (const auto *mouse = dynamic_cast<QMouseEvent *>(event)) {
+            places.append(mouse->position());
+            isPlain = isPlain && mouse->button() == Qt::NoButton && mouse->buttons() == QGuiApplication::mouseButtons()
+                && mouse->modifiers() == QGuiApplication::keyboardModifiers()
+                && mouse->pointingDevice() == QPointingDevice::primaryPointingDevice();
+        }
         return false;
     }
 
     QList<QEvent::Type> types;
+    QList<QPointF> places; // of mouse events
+    int enterEvents = 0; // that are QEnterEvents
+    bool isPlain = true; // no mouse event had anything but the present state
+};
+
+/*! A window with a mouse in it that it follows. */
+class TrackingWindow : public QWidget
+{
+public:
+    explicit TrackingWindow(const QPoint &place)
+    {
+        setMouseTracking(true);
+        setGeometry(QRect(place, QSize(100, 100)));
+        show();
+    }
+
+    bool takeMouse(const QPoint &place)
+    {
+        QCursor::setPos(mapToGlobal(place));
+        return QTest::qWaitFor([&] { return underMouse() && QCursor::pos() == mapToGlobal(place); });
+    }
 };
 
 /*! Its active action is a separator after the mouse has moved. */
@@ -217,6 +247,12 @@ void tst_WidgetHelpers::ensureWidgetVisible_scrolls_data()
     QTest::newRow("passes the lower edge") << QRect(500, 690, 50, 40) << none << QPoint(400, 400) << QPoint(400, 430);
     QTest::newRow("by its margins alone")
         << QRect(740, 640, 50, 40) << QPoint(15, 25) << QPoint(400, 400) << QPoint(405, 405);
+    QTest::newRow("by its left margin") << QRect(405, 500, 50, 40) << QPoint(15, 0) << QPoint(400, 400)
+                                        << QPoint(410, 400);
+    QTest::newRow("by its upper margin") << QRect(500, 405, 50, 40) << QPoint(0, 15) << QPoint(400, 400)
+                                         << QPoint(400, 410);
+    QTest::newRow("wider by its margins")
+        << QRect(450, 450, 350, 40) << QPoint(60, 0) << QPoint(400, 400) << QPoint((-10 + 459) / 2 - 200, 400);
     QTest::newRow("left: further away") << QRect(370, 500, 50, 40) << none << QPoint(400, 400) << QPoint(430, 400);
     QTest::newRow("above: further away") << QRect(500, 380, 50, 40) << none << QPoint(400, 400) << QPoint(400, 420);
     QTest::newRow("to the end of the bar")
@@ -225,7 +261,7 @@ void tst_WidgetHelpers::ensureWidgetVisible_scrolls_data()
         << QRect(100, 450, 600, 40) << none << QPoint(0, 400) << QPoint((100 + 699) / 2 - 200, 400);
     QTest::newRow("higher") << QRect(450, 100, 40, 500) << none << QPoint(400, 0) << QPoint(400, (100 + 599) / 2 - 150);
     QTest::newRow("wider and elsewhere: counted from the viewport")
-        << QRect(100, 450, 600, 40) << none << QPoint(300, 400) << QPoint((-200 + 399) / 2 - 200 + 101, 400);
+        << QRect(100, 450, 600, 40) << none << QPoint(300, 400) << QPoint((-200 + 399) / 2 - 200, 400);
 }
 
 void tst_WidgetHelpers::ensureWidgetVisible_scrolls()
@@ -269,49 +305,39 @@ void tst_WidgetHelpers::ensureWidgetVisible_logsTheGeometry()
 
 void tst_WidgetHelpers::flickAppCursor_movesAndComesBack()
 {
-    QWidget window;
-    window.setMouseTracking(true);
-    window.resize(100, 100);
-    window.show();
+    TrackingWindow window({200, 200});
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const QPoint place = window.mapToGlobal(QPoint(50, 50));
-    QCursor::setPos(place);
-    QTRY_COMPARE(QCursor::pos(), place);
-    QTest::qWait(0);
-    EventList events(&window);
+    QVERIFY(window.takeMouse({50, 50}));
+    const EventList events(&window);
     flickAppCursor();
-    QCOMPARE(QCursor::pos(), place);
-    QTRY_VERIFY(events.types.contains(QEvent::MouseMove)); // there was a way, though it led back
+    QCOMPARE(QCursor::pos(), window.mapToGlobal(QPoint(50, 50)));
+    QTRY_COMPARE(events.places, (QList<QPointF>{{51, 51}, {50, 50}}));
 }
 
 void tst_WidgetHelpers::flickHoverEvent_cursorOutside_sendsLeaveOnly()
 {
-    QWidget window;
-    window.resize(100, 100);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const QPoint place = window.mapToGlobal(QPoint(150, 50));
-    QCursor::setPos(place);
-    QTest::qWait(0);
-    EventList events(&window);
+    TrackingWindow window({200, 200});
+    TrackingWindow neighbour({400, 200});
+    QVERIFY(QTest::qWaitForWindowActive(&neighbour));
+    QVERIFY(neighbour.takeMouse({50, 50}));
+    const EventList events(&window);
+    const EventList eventsThere(&neighbour);
     flickHoverEvent(&window);
+    flickAppCursor(); // the first movement that is seen
+    QTRY_COMPARE(eventsThere.places.size(), 2);
     QCOMPARE(events.types, QList<QEvent::Type>{QEvent::Leave});
-    QCOMPARE(QCursor::pos(), place);
-    QTest::qWait(0);
-    QCOMPARE(events.types, QList<QEvent::Type>{QEvent::Leave}); // no mouse was moved
 }
 
 void tst_WidgetHelpers::flickHoverEvent_cursorInside_sendsLeaveAndEnter()
 {
-    QWidget window;
-    window.resize(100, 100);
-    window.show();
+    TrackingWindow window({200, 200});
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    QCursor::setPos(window.mapToGlobal(QPoint(50, 50)));
-    QTest::qWait(0);
-    EventList events(&window);
+    QVERIFY(window.takeMouse({50, 50}));
+    const EventList events(&window);
     flickHoverEvent(&window);
-    QCOMPARE(events.types, (QList<QEvent::Type>{QEvent::Leave, QEvent::Enter}));
+    QCOMPARE(events.types.first(2), (QList<QEvent::Type>{QEvent::Leave, QEvent::Enter}));
+    QCOMPARE(events.enterEvents, 0); // plain ones
+    QTRY_COMPARE(events.places, (QList<QPointF>{{51, 51}, {50, 50}})); // the mouse was moved, too
 }
 
 void tst_WidgetHelpers::flickHoverEvent_menu_movesTheMouseTwice()

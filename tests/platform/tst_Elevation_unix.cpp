@@ -44,6 +44,7 @@ private Q_SLOTS:
     void createFolderElevated_path_staysOneArgument();
     void createFolderElevated_relativePath_isMadeAbsolute();
     void createFolderElevated_newFolder_hasTheMode();
+    void createFolderElevated_belowASetGroupId_hasTheModeAlone();
     void createFolderElevated_realProgram_refuses();
     void prepareElevation_andBack_isAllowedAlways();
 
@@ -84,8 +85,8 @@ void tst_Elevation_unix::createFolderElevated_ending_decides()
     const FakePkexec pkexec(script);
     const ElevatedCommand command = createFolderElevated(u"/folder"_qs, u"755"_qs);
     QCOMPARE(command.isStarted, isStarted);
-    QCOMPARE(command.arguments, u"/bin/mkdir -p -m 755 -- \"/folder\""_qs);
-    const QByteArrayList arguments{"/bin/mkdir", "-p", "-m", "755", "--", "/folder"};
+    QCOMPARE(command.arguments, u"/bin/mkdir -p -m 00755 -- \"/folder\""_qs);
+    const QByteArrayList arguments{"/bin/mkdir", "-p", "-m", "00755", "--", "/folder"};
     QCOMPARE(pkexec.calls(), QList<QByteArrayList>{arguments});
 }
 
@@ -104,7 +105,7 @@ void tst_Elevation_unix::createFolderElevated_cannotStart_isRefused()
     const FakePkexec pkexec(isThere ? FakePkexec::Program::Damaged : FakePkexec::Program::Missing);
     const ElevatedCommand command = createFolderElevated(m_folder + u"/new", u"755"_qs);
     QVERIFY(!command.isStarted);
-    QCOMPARE(command.arguments, QString(u"/bin/mkdir -p -m 755 -- \"" + m_folder + u"/new\""));
+    QCOMPARE(command.arguments, QString(u"/bin/mkdir -p -m 00755 -- \"" + m_folder + u"/new\""));
     QVERIFY(!QFileInfo::exists(m_folder + u"/new"));
 }
 
@@ -138,11 +139,12 @@ void tst_Elevation_unix::createFolderElevated_mode_isPassedOnIfItIsOne()
 
     const FakePkexec pkexec("exit 0");
     const ElevatedCommand command = createFolderElevated(u"/folder"_qs, permissions);
-    const QByteArrayList with{"/bin/mkdir", "-p", "-m", permissions.toUtf8(), "--", "/folder"};
+    const QString mode = permissions.rightJustified(5, u'0');
+    const QByteArrayList with{"/bin/mkdir", "-p", "-m", mode.toUtf8(), "--", "/folder"};
     const QByteArrayList without{"/bin/mkdir", "-p", "--", "/folder"};
     QCOMPARE(pkexec.calls(), QList<QByteArrayList>{isPassedOn ? with : without});
     QCOMPARE(command.arguments,
-             isPassedOn ? QString(u"/bin/mkdir -p -m " + permissions + u" -- \"/folder\"")
+             isPassedOn ? QString(u"/bin/mkdir -p -m " + mode + u" -- \"/folder\"")
                         : u"/bin/mkdir -p -- \"/folder\""_qs);
 }
 
@@ -169,8 +171,8 @@ void tst_Elevation_unix::createFolderElevated_path_staysOneArgument()
     const FakePkexec pkexec("exec \"$@\"");
     const ElevatedCommand command = createFolderElevated(path, u"700"_qs);
     QVERIFY(command.isStarted);
-    QCOMPARE(command.arguments, QString(u"/bin/mkdir -p -m 700 -- \"" + path + u'"'));
-    const QByteArrayList arguments{"/bin/mkdir", "-p", "-m", "700", "--", QFile::encodeName(path)};
+    QCOMPARE(command.arguments, QString(u"/bin/mkdir -p -m 00700 -- \"" + path + u'"'));
+    const QByteArrayList arguments{"/bin/mkdir", "-p", "-m", "00700", "--", QFile::encodeName(path)};
     QCOMPARE(pkexec.calls(), QList<QByteArrayList>{arguments});
     QVERIFY(QFileInfo(path).isDir()); // nothing had to be waited for
     QCOMPARE(QDir(m_folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -189,7 +191,7 @@ void tst_Elevation_unix::createFolderElevated_relativePath_isMadeAbsolute()
     }
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(command.isStarted);
-    QCOMPARE(command.arguments, QString(u"/bin/mkdir -p -m 755 -- \"" + current + u"/-m 1/relative\""));
+    QCOMPARE(command.arguments, QString(u"/bin/mkdir -p -m 00755 -- \"" + current + u"/-m 1/relative\""));
     QVERIFY(QFileInfo(m_folder + u"/-m 1/relative").isDir());
 }
 
@@ -202,6 +204,16 @@ void tst_Elevation_unix::createFolderElevated_newFolder_hasTheMode()
 
     QVERIFY(createFolderElevated(m_folder + u"/above/new", u"700"_qs).isStarted);
     QCOMPARE(modeOf(m_folder + u"/above/new"), 01730u); // one that is there keeps its own
+}
+
+void tst_Elevation_unix::createFolderElevated_belowASetGroupId_hasTheModeAlone()
+{
+    QCOMPARE(chmod(QFile::encodeName(m_folder).constData(), 02775), 0);
+    const FakePkexec pkexec("exec \"$@\"");
+    QVERIFY(createFolderElevated(m_folder + u"/new", u"755"_qs).isStarted);
+    QCOMPARE(modeOf(m_folder + u"/new"), 0755u);
+    QVERIFY(createFolderElevated(m_folder + u"/kept", u"2750"_qs).isStarted);
+    QCOMPARE(modeOf(m_folder + u"/kept"), 02750u);
 }
 
 void tst_Elevation_unix::createFolderElevated_realProgram_refuses()

@@ -16,7 +16,7 @@ class QByteArray;
     result and one line in the log; for bytes that could not be written, the result alone.
 
     Permissions are an octal mode, such as "755". On Windows only its write bits count: without any, the path becomes
-    read-only. One that is no octal number throws std::invalid_argument, one beyond an int std::out_of_range.
+    read-only. One that does not begin with an octal number throws std::invalid_argument, one beyond an int std::out_of_range.
 */
 class UTILSDLL_EXPORT AdministratorActions
 {

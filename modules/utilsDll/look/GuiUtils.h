@@ -60,8 +60,8 @@ UTILSDLL_EXPORT void drawRoundedImageBorder(QPainter *painter, const QRect &rect
 UTILSDLL_EXPORT void setWidgetFullTransparency(QWidget *widget);
 
 /*!
-    Paints the icon into \a rect: for Qt::IgnoreAspectRatio at its own size or smaller, in the middle; else at its
-    largest size, scaled to \a rect by \a mode, around its centre.
+    Paints the icon into \a rect for Qt::IgnoreAspectRatio; else into its largest size, scaled to \a rect by \a mode,
+    around its centre. An icon of pixmaps is painted no larger than it is, in the middle.
 */
 UTILSDLL_EXPORT void paintIcon(QPainter *painter, const QIcon &icon, const QRect &rect, Qt::AspectRatioMode mode,
                                QIcon::Mode iconMode, QIcon::State state);

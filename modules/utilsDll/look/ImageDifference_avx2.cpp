@@ -7,7 +7,8 @@
 // pixel's share t then adds t rounded to a multiple of u, whatever s is; only where t lies half-way between two
 // multiples it matters whether s is an even one. Multiples of u below 2^(e+1) are added without error, in any order. So
 // a block of pixels is rounded and added up by lanes. A block that has a half-way share, or leads beyond 2^(e+1), goes
-// pixel by pixel instead: at most one for each power of two, apart from the half-way ones.
+// pixel by pixel instead, and so do the first ones, while the sum is small. A block without any difference adds
+// nothing.
 #include "utilsDll/look/ImageDifference_p.h"
 
 #include <immintrin.h>
@@ -17,7 +18,7 @@ namespace ImageDifference {
 namespace {
 
 constexpr std::size_t blockSize = 512; // pixels
-constexpr double smallestSum = 16; // below it a share may be more than half of the power of two
+constexpr double smallestSum = 16; // a share is at most 3, which has to be less than half of the power of two
 
 // 1 / 255 in two parts: the first has so few digits that its products with 0 to 255 are exact
 constexpr double upperPart = static_cast<double>(1ULL << 44U) / 255.0;
@@ -38,7 +39,7 @@ double powerOfTwoBelow(double value)
     return _mm_cvtsd_f64(_mm_and_pd(_mm_set_sd(value), _mm_castsi128_pd(exponent)));
 }
 
-/*! Four differences of a channel through 255.0, rounded as a division rounds. */
+/*! Four differences of a channel, divided by 255.0 and rounded as a division rounds. */
 __m256d quotients(__m128i differences)
 {
     const __m256d values = _mm256_cvtepi32_pd(differences);
@@ -88,15 +89,14 @@ double addPixelsByVectors(double sum, const std::uint32_t *first, const std::uin
 {
     std::size_t done = 0;
     for (; done + blockSize <= count; done += blockSize) {
-        if (sum >= smallestSum) {
-            const double power = powerOfTwoBelow(sum);
-            const Block block = roundedBlock(power, first + done, second + done);
-            if (!block.isHalfWay && sum + block.sum < 2 * power) {
-                sum += block.sum;
-                continue;
-            }
+        const double power = powerOfTwoBelow(sum < smallestSum ? smallestSum : sum);
+        const Block block = roundedBlock(power, first + done, second + done);
+        const bool isRight = sum >= smallestSum && !block.isHalfWay && sum + block.sum < 2 * power;
+        if (isRight || block.sum == 0) { // the smallest share does not round to 0
+            sum += block.sum;
+        } else {
+            sum = addPixels(sum, first + done, second + done, blockSize);
         }
-        sum = addPixels(sum, first + done, second + done, blockSize);
     }
     return addPixels(sum, first + done, second + done, count - done);
 }
