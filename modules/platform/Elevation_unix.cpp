@@ -14,14 +14,17 @@ namespace {
 constexpr int dismissed = 126; // what pkexec ends with
 constexpr int notAuthorized = 127;
 
+/*! By the octal number at the beginning, as the permissions are read afterwards. */
 QStringList modeOption(const QString &permissions)
 {
-    static const QRegularExpression octal(QStringLiteral("\\A[0-7]{1,4}\\z"));
-    if (!octal.match(permissions).hasMatch()) {
+    static const QRegularExpression octal(QStringLiteral("\\A\\s*\\+?([0-7]+)"));
+    bool isNumber = false;
+    const unsigned mode = octal.match(permissions).captured(1).toUInt(&isNumber, 8) & 07777U;
+    if (!isNumber) {
         return {};
     }
-    constexpr int wholeMode = 5; // with fewer digits a folder keeps the set-group-ID bit of the one above
-    return {QStringLiteral("-m"), permissions.rightJustified(wholeMode, u'0')};
+    // with fewer than five digits a folder keeps the set-group-ID bit of the one above
+    return {QStringLiteral("-m"), QStringLiteral("%1").arg(mode, 5, 8, QLatin1Char('0'))};
 }
 
 } // namespace

@@ -94,7 +94,7 @@ void tst_ElevatedFolder_unix::createFolder_granted_makesFolderWithMode_data()
     QTest::newRow("minus in front") << u"-p"_qs << u"755"_qs << 0755u;
     QTest::newRow("nested") << u"a/b/c"_qs << u"711"_qs << 0711u;
     QTest::newRow("four digits") << u"folder"_qs << u"1777"_qs << 01777u;
-    QTest::newRow("five digits") << u"folder"_qs << u"00700"_qs << 0700u; // by the second step alone
+    QTest::newRow("five digits") << u"folder"_qs << u"00700"_qs << 0700u;
     QTest::newRow("letters behind") << u"folder"_qs << u"710x"_qs << 0710u;
     QTest::newRow("blank in front") << u"folder"_qs << u" 755"_qs << 0755u;
 }

@@ -112,40 +112,42 @@ void tst_Elevation_unix::createFolderElevated_cannotStart_isRefused()
 void tst_Elevation_unix::createFolderElevated_mode_isPassedOnIfItIsOne_data()
 {
     QTest::addColumn<QString>("permissions");
-    QTest::addColumn<bool>("isPassedOn");
+    QTest::addColumn<QString>("mode"); // empty: is not passed on
 
-    QTest::newRow("one digit") << u"7"_qs << true;
-    QTest::newRow("two digits") << u"70"_qs << true;
-    QTest::newRow("three digits") << u"755"_qs << true;
-    QTest::newRow("four digits") << u"0755"_qs << true;
-    QTest::newRow("four digits with a sticky bit") << u"1777"_qs << true;
-    QTest::newRow("five digits") << u"00755"_qs << false;
-    QTest::newRow("empty") << QString() << false;
-    QTest::newRow("no octal digit") << u"758"_qs << false;
-    QTest::newRow("leading blank") << u" 755"_qs << false;
-    QTest::newRow("line end") << u"755\n"_qs << false;
-    QTest::newRow("plus") << u"+755"_qs << false;
-    QTest::newRow("minus") << u"-1"_qs << false;
-    QTest::newRow("symbolic") << u"u+s"_qs << false;
-    QTest::newRow("option") << u"--help"_qs << false;
-    QTest::newRow("letters behind") << u"755abc"_qs << false;
-    QTest::newRow("digits of another script") << u"\u0667\u0665\u0665"_qs << false;
+    QTest::newRow("one digit") << u"7"_qs << u"00007"_qs;
+    QTest::newRow("two digits") << u"70"_qs << u"00070"_qs;
+    QTest::newRow("three digits") << u"755"_qs << u"00755"_qs;
+    QTest::newRow("four digits") << u"0755"_qs << u"00755"_qs;
+    QTest::newRow("four digits with a sticky bit") << u"1777"_qs << u"01777"_qs;
+    QTest::newRow("five digits") << u"00700"_qs << u"00700"_qs;
+    QTest::newRow("more than a mode") << u"4012755"_qs << u"02755"_qs;
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("no octal digit behind") << u"758"_qs << u"00075"_qs;
+    QTest::newRow("no octal digit") << u"8"_qs << QString();
+    QTest::newRow("leading blank") << u" 755"_qs << u"00755"_qs;
+    QTest::newRow("line end") << u"755\n"_qs << u"00755"_qs;
+    QTest::newRow("plus") << u"+755"_qs << u"00755"_qs;
+    QTest::newRow("minus") << u"-1"_qs << QString();
+    QTest::newRow("symbolic") << u"u+s"_qs << QString();
+    QTest::newRow("option") << u"--help"_qs << QString();
+    QTest::newRow("letters behind") << u"755abc"_qs << u"00755"_qs;
+    QTest::newRow("beyond an int") << u"777777777777"_qs << QString();
+    QTest::newRow("digits of another script") << u"\u0667\u0665\u0665"_qs << QString();
 }
 
 void tst_Elevation_unix::createFolderElevated_mode_isPassedOnIfItIsOne()
 {
     QFETCH(const QString, permissions);
-    QFETCH(const bool, isPassedOn);
+    QFETCH(const QString, mode);
 
     const FakePkexec pkexec("exit 0");
     const ElevatedCommand command = createFolderElevated(u"/folder"_qs, permissions);
-    const QString mode = permissions.rightJustified(5, u'0');
     const QByteArrayList with{"/bin/mkdir", "-p", "-m", mode.toUtf8(), "--", "/folder"};
     const QByteArrayList without{"/bin/mkdir", "-p", "--", "/folder"};
-    QCOMPARE(pkexec.calls(), QList<QByteArrayList>{isPassedOn ? with : without});
+    QCOMPARE(pkexec.calls(), QList<QByteArrayList>{mode.isEmpty() ? without : with});
     QCOMPARE(command.arguments,
-             isPassedOn ? QString(u"/bin/mkdir -p -m " + mode + u" -- \"/folder\"")
-                        : u"/bin/mkdir -p -- \"/folder\""_qs);
+             mode.isEmpty() ? u"/bin/mkdir -p -- \"/folder\""_qs
+                            : QString(u"/bin/mkdir -p -m " + mode + u" -- \"/folder\""));
 }
 
 void tst_Elevation_unix::createFolderElevated_path_staysOneArgument_data()

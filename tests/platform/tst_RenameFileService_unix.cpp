@@ -4,6 +4,7 @@
 
 #include "support/Sandbox.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void renameFile_link_isNotFollowed();
     void renameFile_existingTarget_isKept_data();
     void renameFile_existingTarget_isKept();
+    void renameFile_itsOwnName_isTrue();
     void renameFile_otherError_isFalse_data();
     void renameFile_otherError_isFalse();
     void renameFile_file_goesToOtherVolume();
@@ -241,7 +243,7 @@ void tst_RenameFileService_unix::renameFile_existingTarget_isKept()
     renameError = rename;
     linkError = link;
     for (const QString &target :
-         {u"folder/within"_qs, u"emptyFile"_qs, u"folder"_qs, u"empty"_qs, u"link"_qs, u"dangling"_qs, u"file"_qs}) {
+         {u"folder/within"_qs, u"emptyFile"_qs, u"folder"_qs, u"empty"_qs, u"link"_qs, u"dangling"_qs}) {
         QVERIFY2(!renameFile(at(u"file"_qs), at(target)), qPrintable(target));
         QCOMPARE(contentOf(at(u"file"_qs)), QByteArray("content"));
     }
@@ -254,6 +256,16 @@ void tst_RenameFileService_unix::renameFile_existingTarget_isKept()
     QVERIFY(QDir(at(u"empty"_qs)).exists() && QDir(at(u"empty"_qs)).isEmpty());
     QCOMPARE(targetOf(at(u"link"_qs)), QByteArray("file"));
     QCOMPARE(targetOf(at(u"dangling"_qs)), QByteArray("none"));
+}
+
+void tst_RenameFileService_unix::renameFile_itsOwnName_isTrue()
+{
+    for (const QString &name : {u"file"_qs, u"folder"_qs, u"link"_qs, u"dangling"_qs}) {
+        QVERIFY2(renameFile(at(name), at(name)), qPrintable(name));
+    }
+    QCOMPARE(contentOf(at(u"file"_qs)), QByteArray("content"));
+    QCOMPARE(contentOf(at(u"folder/within"_qs)), QByteArray("more"));
+    QVERIFY(!renameFile(at(u"none"_qs), at(u"none"_qs)));
 }
 
 void tst_RenameFileService_unix::renameFile_otherError_isFalse_data()
@@ -291,7 +303,13 @@ void tst_RenameFileService_unix::renameFile_file_goesToOtherVolume()
     const QByteArray large(3'000'000, 'x');
     QVERIFY(makeFile(at(u"large"_qs), large));
     QVERIFY(QFile::setPermissions(at(u"large"_qs), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    const QDateTime taken({2001, 2, 3}, {4, 5, 6});
+    {
+        QFile file(at(u"large"_qs));
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(taken, QFileDevice::FileModificationTime));
+    }
     QVERIFY(renameFile(at(u"large"_qs), there(u"gr\u00fcn"_qs)));
+    QCOMPARE(QFileInfo(there(u"gr\u00fcn"_qs)).lastModified(), taken);
     QVERIFY(!QFileInfo::exists(at(u"large"_qs)));
     QVERIFY(contentOf(there(u"gr\u00fcn"_qs)) == large);
     struct stat status

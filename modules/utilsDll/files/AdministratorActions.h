@@ -12,11 +12,12 @@ class QByteArray;
 /*!
     The few file operations that may need more rights than the user has. Paths are UTF-8, with one exception.
 
-    To be made, used and destroyed on one thread: on Windows it takes part in that thread's COM. A failure is a false
-    result and one line in the log; for bytes that could not be written, the result alone.
+    To be made, used and destroyed on one thread: on Windows it takes part in that thread's COM. A failure is
+    a false result and one line in the log; for bytes that could not be written, the result alone.
 
-    Permissions are an octal mode, such as "755". On Windows only its write bits count: without any, the path becomes
-    read-only. One that does not begin with an octal number throws std::invalid_argument, one beyond an int std::out_of_range.
+    Permissions are an octal mode, such as "755". On Windows only its write bits count: without any, the path
+    becomes read-only. One that does not begin with an octal number throws std::invalid_argument, one beyond
+    an int std::out_of_range.
 */
 class UTILSDLL_EXPORT AdministratorActions
 {
@@ -28,15 +29,16 @@ public:
     AdministratorActions &operator=(const AdministratorActions &) = delete;
 
     /*!
-        Makes or empties the file, sets its permissions, and only then writes \a data: nobody reads what the permissions
-        forbid. False also if not all could be written.
+        Makes or empties the file, sets its permissions, and only then writes \a data: who opens it later,
+        reads only what the permissions allow. False also if not all could be written.
     */
     [[nodiscard]] bool writeFile(const std::string &path, const std::string &permissions, const QByteArray &data) const;
 
     /*!
-        Makes the folder, and those above it, after the system has asked the user for an administrator's rights; blocks
-        while it asks. False if the user refuses, or on Windows the path has a quotation mark. Windows does not wait for
-       the folder: then the permissions may come too early, which is false too, though the folder comes into being.
+        Makes the folder, and those above it, after the system has asked the user for an administrator's
+        rights; blocks while it asks. False if the user refuses, or on Windows the path has a quotation mark.
+        Windows does not wait for the folder: then the permissions may come too early, which is false too,
+        though the folder comes into being.
     */
     [[nodiscard]] bool createFolder(const std::string &path, const std::string &permissions) const;
 

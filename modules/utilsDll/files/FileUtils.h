@@ -68,14 +68,13 @@ UTILSDLL_EXPORT bool isEqualFileOrDirNames(const QString &a, const QString &b,
 */
 [[nodiscard]] UTILSDLL_EXPORT bool removeDirectoryContent(const QDir &dir);
 
-/*! Also for folders; only files may go to another volume. False if there is something at \a newPath: it is never
- * replaced. */
+/*! Also for folders; only files may go to another volume. Never replaces: false if something else is at \a newPath. */
 [[nodiscard]] UTILSDLL_EXPORT bool renameFile(const QString &oldPath, const QString &newPath);
 
 /*!
-    The entry after or before \a path in its folder, for stepping through it: files of any type, hidden ones and
-   folders, in the order of their names, which ignores case. Empty at either end, and for a name that is not
-    there in these very letters.
+    The entry after or before \a path in its folder, for stepping through it: files of any type, hidden ones
+    and folders, in the order of their names, which ignores case. Empty at either end, and for a name that is
+    not there in these very letters.
 
     Lists the whole folder at each call.
 */
@@ -101,8 +100,8 @@ UTILSDLL_EXPORT QString fileSizeToString(const long long &size);
 UTILSDLL_EXPORT QString sizeToString(const QSize &size);
 
 /*!
-    Path, in UTF-8, of the colour profile of the main window's monitor, else of the primary one; empty for none. On
-   Linux the colour service is asked, and waited for up to three seconds.
+    Path, in UTF-8, of the colour profile of the main window's monitor, else of the primary one; empty for
+    none. On Linux the colour service is asked, and waited for up to three seconds.
 */
 UTILSDLL_EXPORT std::string GetIccProfileFilePathFromSystem();
 

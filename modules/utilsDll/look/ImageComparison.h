@@ -16,15 +16,16 @@ enum imgCmpResult {
 };
 
 /*!
-    Compares the colours of two images, without regard to alpha. \a difference, which may be null, gets the mean
-    difference of a channel in percent, 0 to 100; it stays as it is where an image is null or the sizes differ.
+    Compares the colours of two images, without regard to alpha. \a difference, which may be null, gets the
+    mean difference of a channel in percent, 0 to 100; it stays as it is where an image is null or the sizes
+    differ.
 
-    For images of 32 bits a pixel (QImage::Format_RGB32, Format_ARGB32): the format is not looked at, and bytes of
-   others are taken for such pixels. The number of channels is counted in 32 bits: from 715,827,883 pixels on it wraps
-   round, and the percentage is of no use.
+    For images of 32 bits a pixel (QImage::Format_RGB32, Format_ARGB32): the format is not looked at, and
+    bytes of others are taken for such pixels. The number of channels is counted in 32 bits: from 715,827,883
+    pixels on it wraps round, and the percentage is of no use.
 
-    The sum is the one of adding up pixel by pixel in row order, to its last bit, on every processor. Safe from any
-    thread.
+    The sum is the one of adding up pixel by pixel in row order, to its last bit, on every processor. Safe
+    from any thread.
 */
 UTILSDLL_EXPORT imgCmpResult compareImages(const QImage &first, const QImage &second, double threshold,
                                            double *difference);

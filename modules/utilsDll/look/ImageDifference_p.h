@@ -10,8 +10,8 @@
 namespace ImageDifference {
 
 /*!
-    Adds to \a sum, pixel by pixel, |r1 - r2| / 255.0 + |g1 - g2| / 255.0 + |b1 - b2| / 255.0 of 0x..RRGGBB; the two
-   rows have \a count pixels. All functions of this type give the same, to the last bit.
+    Adds to \a sum, pixel by pixel, |r1 - r2| / 255.0 + |g1 - g2| / 255.0 + |b1 - b2| / 255.0 of 0x..RRGGBB;
+    the two rows have \a count pixels. All functions of this type give the same, to the last bit.
 */
 using AddPixels = double (*)(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count);
 
