@@ -14,11 +14,11 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
+#include <QtCore/QSemaphore>
 #include <QtCore/QStandardPaths>
 #include <QtTest/QTest>
 
 #include <cstdlib>
-#include <latch>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -74,17 +74,18 @@ QStringList lastMessages(const QString &path, qsizetype count)
 /*! What \a location gives to threads that call it at the same time. */
 QStringList resultsOfManyThreads(Location location)
 {
-    constexpr std::size_t threadCount = 8;
+    constexpr int threadCount = 8;
     std::vector<QString> results(threadCount);
-    std::latch start(threadCount);
+    QSemaphore start; // a std::latch sometimes loses a thread with MinGW
     std::vector<std::thread> threads;
     threads.reserve(threadCount);
     for (QString &result : results) {
         threads.emplace_back([&result, &start, location] {
-            start.arrive_and_wait();
+            start.acquire();
             result = location();
         });
     }
+    start.release(threadCount);
     for (std::thread &thread : threads) {
         thread.join();
     }
