@@ -30,8 +30,8 @@ bool isHomeTrashThere()
 }
 
 /*!
-    Percent-encodes the origin of what lies in the trash, which some versions of Qt write as it is: "100%25.tif" would
-   come back as "100%.tif". A note that can't be written stays as it was.
+    Percent-encodes the origin of what lies in the trash, which some versions of Qt write as it is: "100%25.tif"
+    would come back as "100%.tif". A note that can't be written stays as it was.
 */
 void encodeOrigin(const QFileInfo &inTrash, const QByteArray &origin)
 {
