@@ -92,6 +92,8 @@ private Q_SLOTS:
     void threshold_isInclusive();
     void differencePointer_mayBeNull();
     void eachStep_isDividedExactly();
+    void eachSumOfChannels_isRoundedAsPixelByPixel_data();
+    void eachSumOfChannels_isRoundedAsPixelByPixel();
     void randomImages_giveTheSumOfPixelByPixel_data();
     void randomImages_giveTheSumOfPixelByPixel();
     void partOfAnImage_isReadByItsRows();
@@ -212,6 +214,29 @@ void tst_ImageComparison::eachStep_isDividedExactly()
         const QImage second = filled(size, 0xff000000);
         QVERIFY2(compared(first, second, 0).difference == differenceByHand(first, second), QByteArray::number(step));
     }
+}
+
+void tst_ImageComparison::eachSumOfChannels_isRoundedAsPixelByPixel_data()
+{
+    QTest::addColumn<QSize>("size");
+
+    QTest::newRow("sums below 4096") << QSize(600, 3);
+    QTest::newRow("through ten powers of two from there on") << QSize(2000, 1500);
+}
+
+void tst_ImageComparison::eachSumOfChannels_isRoundedAsPixelByPixel()
+{
+    QFETCH(const QSize, size);
+
+    int next = 0;
+    const QImage first = painted(size, [&next] {
+        const int sum = next++ % (3 * 255 + 1);
+        const int red = std::min(sum, 255);
+        const int green = std::min(sum - red, 255);
+        return qRgb(red, green, sum - red - green);
+    });
+    const QImage second = filled(size, 0xff000000);
+    QVERIFY(compared(first, second, 0).difference == differenceByHand(first, second));
 }
 
 void tst_ImageComparison::randomImages_giveTheSumOfPixelByPixel_data()

@@ -1,14 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 //
-// How vectors give the sum of adding pixel by pixel, to the last bit.
+// How integers give the sum of adding pixel by pixel in double precision, to the last bit.
 //
-// While a sum s stays between two powers of two, 2^e and 2^(e+1), its unit u in the last place is the same. Adding a
-// pixel's share t then adds t rounded to a multiple of u, whatever s is; only where t lies half-way between two
-// multiples it matters whether s is an even one. Multiples of u below 2^(e+1) are added without error, in any order. So
-// a block of pixels is rounded and added up by lanes. A block that has a half-way share, or leads beyond 2^(e+1), goes
-// pixel by pixel instead, and so do the first ones, while the sum is small. A block without any difference adds
-// nothing.
+// While a sum stays between two powers of two, 2^e and 2^(e+1), its unit in the last place is u = 2^(e-52), and adding
+// a pixel's share to it adds the share rounded to a multiple of u. Multiples of u below 2^(e+1) are added without
+// error, in any order. A share is n / 255, where n is the sum of its three differences, with an error below 2^-50 from
+// its own roundings. As 255 is odd, n / 255 lies at least u / 510 away from the middle between two multiples of u, so
+// from e = 12 on that error decides nothing, and the share adds round(n / 255 / u) units.
+//
+// With m = 52 - e, n / 255 / u = n * 2^m / 255. Of 2^m, 255 leaves 2^(m mod 8), which gives
+//     round(n * 2^m / 255) = n * ((2^m - 2^(m mod 8)) / 255) + round(n * 2^(m mod 8) / 255),
+// two whole numbers; a block of pixels adds up n and the second term by lanes. A block that leads beyond 2^(e+1) goes
+// pixel by pixel instead, and so do differing pixels while the sum is small.
 #include "utilsDll/look/ImageDifference_p.h"
 
 #include <immintrin.h>
@@ -18,69 +22,86 @@ namespace ImageDifference {
 namespace {
 
 constexpr std::size_t blockSize = 512; // pixels
-constexpr double smallestSum = 16; // a share is at most 3, which has to be less than half of the power of two
+constexpr std::size_t vectorSize = 8;
+constexpr double smallestSum = 4096; // 2^12
 
-// 1 / 255 in two parts: the first has so few digits that its products with 0 to 255 are exact
-constexpr double upperPart = static_cast<double>(1ULL << 44U) / 255.0;
-constexpr double inverseUpper
-    = static_cast<double>(static_cast<std::uint64_t>(upperPart)) / static_cast<double>(1ULL << 44U);
-constexpr double rest = 1.0 - inverseUpper * 255.0; // exact
-constexpr double inverseLower = rest / 255.0;
-
-struct Block
+__m256i loaded(const std::uint32_t *pixels)
 {
-    double sum;
-    bool isHalfWay;
-};
-
-double powerOfTwoBelow(double value)
-{
-    const __m128i exponent = _mm_set1_epi64x(0x7ff0000000000000);
-    return _mm_cvtsd_f64(_mm_and_pd(_mm_set_sd(value), _mm_castsi128_pd(exponent)));
+    return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(pixels));
 }
 
-/*! Four differences of a channel, divided by 255.0 and rounded as a division rounds. */
-__m256d quotients(__m128i differences)
+/*! The three differences of each of eight pixels, added up: 0 to 765. */
+__m256i sumsOfChannels(const std::uint32_t *first, const std::uint32_t *second)
 {
-    const __m256d values = _mm256_cvtepi32_pd(differences);
-    return _mm256_add_pd(_mm256_mul_pd(values, _mm256_set1_pd(inverseUpper)),
-                         _mm256_mul_pd(values, _mm256_set1_pd(inverseLower)));
+    const __m256i a = loaded(first);
+    const __m256i b = loaded(second);
+    const __m256i differences = _mm256_or_si256(_mm256_subs_epu8(a, b), _mm256_subs_epu8(b, a));
+    const __m256i pairs = _mm256_maddubs_epi16(differences, _mm256_set1_epi32(0x00010101)); // without alpha
+    return _mm256_madd_epi16(pairs, _mm256_set1_epi16(1));
 }
 
-__m256d sharesOf(const std::uint32_t *first, const std::uint32_t *second)
+std::uint64_t sumOfLanes(__m256i lanes)
 {
-    const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i *>(first));
-    const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i *>(second));
-    const __m128i differences = _mm_sub_epi8(_mm_max_epu8(a, b), _mm_min_epu8(a, b));
-    const __m128i byte = _mm_set1_epi32(0xff);
-    const __m256d red = quotients(_mm_and_si128(_mm_srli_epi32(differences, 16), byte));
-    const __m256d green = quotients(_mm_and_si128(_mm_srli_epi32(differences, 8), byte));
-    const __m256d blue = quotients(_mm_and_si128(differences, byte));
-    return _mm256_add_pd(_mm256_add_pd(red, green), blue);
-}
-
-double sumOfLanes(__m256d lanes)
-{
-    const __m128d pairs = _mm_add_pd(_mm256_castpd256_pd128(lanes), _mm256_extractf128_pd(lanes, 1));
-    return _mm_cvtsd_f64(_mm_add_sd(pairs, _mm_unpackhi_pd(pairs, pairs)));
-}
-
-/*! What a block adds to a sum whose next lower power of two is \a power. */
-Block roundedBlock(double power, const std::uint32_t *first, const std::uint32_t *second)
-{
-    const __m256d shift = _mm256_set1_pd(1.5 * power); // what is added to it and taken off again, is rounded to units
-    const __m256d half = _mm256_set1_pd(power * 0x1p-53);
-    const __m256d sign = _mm256_set1_pd(-0.0);
-    __m256d sum = _mm256_setzero_pd();
-    __m256d isHalfWay = _mm256_setzero_pd();
-    for (std::size_t i = 0; i < blockSize; i += 4) {
-        const __m256d shares = sharesOf(first + i, second + i);
-        const __m256d rounded = _mm256_sub_pd(_mm256_add_pd(shares, shift), shift);
-        const __m256d error = _mm256_andnot_pd(sign, _mm256_sub_pd(shares, rounded));
-        isHalfWay = _mm256_or_pd(isHalfWay, _mm256_cmp_pd(error, half, _CMP_EQ_OQ));
-        sum = _mm256_add_pd(sum, rounded);
+    alignas(32) std::uint32_t values[vectorSize]; // NOLINT(modernize-avoid-c-arrays): no header for more, see below
+    _mm256_store_si256(reinterpret_cast<__m256i *>(values), lanes);
+    std::uint64_t sum = 0;
+    for (const std::uint32_t value : values) {
+        sum += value;
     }
-    return {sumOfLanes(sum), _mm256_movemask_pd(isHalfWay) != 0};
+    return sum;
+}
+
+/*! What a block adds, in units of 2^-m. */
+std::uint64_t unitsOf(int m, const std::uint32_t *first, const std::uint32_t *second)
+{
+    const __m128i shift = _mm_cvtsi32_si128(m % 8);
+    const __m256i half = _mm256_set1_epi32(128);
+    __m256i whole = _mm256_setzero_si256();
+    __m256i rounded = _mm256_setzero_si256();
+    for (std::size_t i = 0; i < blockSize; i += vectorSize) {
+        const __m256i sums = sumsOfChannels(first + i, second + i);
+        whole = _mm256_add_epi32(whole, sums);
+        // x / 255 to the nearest, right for x up to 765 * 2^7
+        const __m256i x = _mm256_add_epi32(_mm256_sll_epi32(sums, shift), half);
+        rounded = _mm256_add_epi32(rounded, _mm256_srli_epi32(_mm256_add_epi32(x, _mm256_srli_epi32(x, 8)), 8));
+    }
+    const std::uint64_t factor = ((std::uint64_t(1) << m) - (std::uint64_t(1) << (m % 8))) / 255;
+    return sumOfLanes(whole) * factor + sumOfLanes(rounded);
+}
+
+/*! The e of the sum's greatest power of two that is not above it. */
+int exponentOf(double sum)
+{
+    return static_cast<int>(_mm_cvtsi128_si64(_mm_castpd_si128(_mm_set_sd(sum))) >> 52) - 1023;
+}
+
+double powerOfTwo(int exponent)
+{
+    return _mm_cvtsd_f64(_mm_castsi128_pd(_mm_cvtsi64_si128(static_cast<std::int64_t>(exponent + 1023) << 52)));
+}
+
+/*! Passes over pixels that are equal, which add nothing. */
+double addDifferingPixels(double sum, const std::uint32_t *first, const std::uint32_t *second)
+{
+    for (std::size_t i = 0; i < blockSize; i += vectorSize) {
+        const __m256i sums = sumsOfChannels(first + i, second + i);
+        if (!_mm256_testz_si256(sums, sums)) {
+            sum = addPixels(sum, first + i, second + i, vectorSize);
+        }
+    }
+    return sum;
+}
+
+double addBlock(double sum, const std::uint32_t *first, const std::uint32_t *second)
+{
+    if (sum < smallestSum) {
+        return addDifferingPixels(sum, first, second);
+    }
+    const int exponent = exponentOf(sum);
+    const int m = 52 - exponent;
+    const double units = static_cast<double>(static_cast<std::int64_t>(unitsOf(m, first, second)));
+    const double next = sum + units * powerOfTwo(-m);
+    return next < powerOfTwo(exponent + 1) ? next : addPixels(sum, first, second, blockSize);
 }
 
 } // namespace
@@ -89,14 +110,7 @@ double addPixelsByVectors(double sum, const std::uint32_t *first, const std::uin
 {
     std::size_t done = 0;
     for (; done + blockSize <= count; done += blockSize) {
-        const double power = powerOfTwoBelow(sum < smallestSum ? smallestSum : sum);
-        const Block block = roundedBlock(power, first + done, second + done);
-        const bool isRight = sum >= smallestSum && !block.isHalfWay && sum + block.sum < 2 * power;
-        if (isRight || block.sum == 0) { // the smallest share does not round to 0
-            sum += block.sum;
-        } else {
-            sum = addPixels(sum, first + done, second + done, blockSize);
-        }
+        sum = addBlock(sum, first + done, second + done);
     }
     return addPixels(sum, first + done, second + done, count - done);
 }
