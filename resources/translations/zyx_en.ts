@@ -41,5 +41,33 @@ Please remove unnecessary files from the disk and try again.</translation>
         <source>Sorry, but this file type is not supported. Please, try again.</source>
         <translation>Sorry, but this file type is not supported. Please, try again.</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
 </context>
 </TS>

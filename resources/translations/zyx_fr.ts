@@ -41,5 +41,33 @@ Veuillez supprimer les fichiers inutiles de ce disque, puis réessayer.</transla
         <source>Sorry, but this file type is not supported. Please, try again.</source>
         <translation>Désolé, ce type de fichier n’est pas pris en charge. Veuillez réessayer.</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>o</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
 </context>
 </TS>

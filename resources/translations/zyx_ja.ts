@@ -41,5 +41,33 @@
         <source>Sorry, but this file type is not supported. Please, try again.</source>
         <translation>申し訳ありませんが、このファイル形式はサポートされていません。もう一度お試しください。</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>ピクセル</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
 </context>
 </TS>
