@@ -21,6 +21,8 @@ from fontTools.ttLib import TTFont
 from fontTools.varLib import instancer
 
 OTHER_FAMILY_NAMES = (16, 17, 18, 21, 22, 25)  # a reader takes the font into these families, too
+VERSION = 5
+CHANGED = "changed by the UtilsDllzglv6 authors, see LICENSES/fonts-NOTICE.txt"
 LIGHTER = 0.8  # so many steps from weight 400 away from 500; more, and thin strokes vanish
 
 
@@ -31,12 +33,15 @@ def opened(path):
 
 
 def rename(font, family, post_script_name):
-    """Gives the font one family and keeps its copyright and licence records."""
+    """Gives the font one family, keeps its copyright and licence records, and says that it was changed."""
     names = font["name"]
     names.names = [name for name in names.names if name.nameID not in OTHER_FAMILY_NAMES]
     texts = {1: family, 3: post_script_name, 4: family, 6: post_script_name}
     for name in names.names:
-        name.string = texts.get(name.nameID, name.string)
+        if name.nameID == VERSION:
+            name.string = name.toUnicode() + "; " + CHANGED
+        else:
+            name.string = texts.get(name.nameID, name.string)
 
 
 def make_renamed(source, target, family, post_script_name):

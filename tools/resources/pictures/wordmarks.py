@@ -14,7 +14,8 @@ OUTLINES = json.loads(Path(__file__).with_name("outlines.json").read_text(encodi
 APP_ICON = Path(__file__).parents[3] / "resources" / "artwork" / "app_icon_small.svg"
 SLOGANS = ("slogan_en", "slogan_de", "slogan_fr", "slogan_jp", "slogan_zh_CN")
 LETTERS, SOFT_LETTERS, BRIGHT_ACCENT = "#e5e5e5", "#999999", "#d0521b"
-NOTE = "<!-- SPDX-License-Identifier: MIT -->\n<!-- Copyright (c) 2026 the UtilsDllzglv6 authors -->\n"
+NOTE = "<!-- SPDX-License-Identifier: {} -->\n<!-- Copyright (c) 2026 the UtilsDllzglv6 authors{} -->\n"
+NOTO = ("slogan_jp", "slogan_zh_CN")  # the others have letters of Roboto
 
 
 def letters(key, x, baseline, size, colour):
@@ -71,12 +72,19 @@ def slogan(key):
     return svg.document(width, 32, letters(key, 0, 23, size, LETTERS))
 
 
+def note(name):
+    if name == "orange-bar":
+        return NOTE.format("MIT", "")
+    licence = "OFL-1.1" if name in NOTO else "Apache-2.0"
+    return NOTE.format(f"MIT AND {licence}", "; letters: see LICENSES/fonts-NOTICE.txt")
+
+
 def drawings():
     """The files that are SVG themselves."""
     named = {"logo": logo(), "gl-s": small_product_logo(), "orange-bar": orange_bar()}
     named.update((key, slogan(key)) for key in SLOGANS)
     for name, text in named.items():
-        yield f"{name}.svg", '<?xml version="1.0" encoding="UTF-8"?>\n' + NOTE + text
+        yield f"{name}.svg", '<?xml version="1.0" encoding="UTF-8"?>\n' + note(name) + text
 
 
 def pictures():
