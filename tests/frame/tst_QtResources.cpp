@@ -7,6 +7,8 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QSet>
+#include <QtCore/QtEndian>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -44,6 +46,56 @@ bool isCalibrationThere()
     return isReadable(u":/calibration/db/CAFList5.db"_qs);
 }
 
+constexpr std::size_t nodeSize = 22; // of format version 3, with its time stamp
+constexpr unsigned directoryFlag = 2;
+
+quint32 numberAt(const unsigned char *node, std::size_t offset)
+{
+    return qFromBigEndian<quint32>(node + offset);
+}
+
+/*! A folder that lists a name more than once; what is stored of a name is stored once. */
+struct FolderWithDoubles
+{
+    quint32 entries = 0;
+    qsizetype names = 0;
+};
+
+FolderWithDoubles folderWithDoubles(const unsigned char *tree, quint32 node = 0)
+{
+    const unsigned char *start = tree + node * nodeSize;
+    if ((qFromBigEndian<quint16>(start + 4) & directoryFlag) == 0) {
+        return {};
+    }
+    const quint32 children = numberAt(start, 6);
+    const quint32 first = numberAt(start, 10);
+    QSet<quint32> names;
+    for (quint32 child = first; child < first + children; ++child) {
+        names.insert(numberAt(tree + child * nodeSize, 0));
+        const FolderWithDoubles below = folderWithDoubles(tree, child);
+        if (below.entries > 0) {
+            return below;
+        }
+    }
+    return names.size() < children ? FolderWithDoubles{children, names.size()} : FolderWithDoubles{};
+}
+
+/*! The files in a collection, also those of one name in one folder. */
+int entryCount(const unsigned char *tree, quint32 node = 0)
+{
+    const unsigned char *start = tree + node * nodeSize;
+    if ((qFromBigEndian<quint16>(start + 4) & directoryFlag) == 0) {
+        return 1;
+    }
+    int count = 0;
+    const quint32 children = numberAt(start, 6);
+    const quint32 first = numberAt(start, 10);
+    for (quint32 child = 0; child < children; ++child) {
+        count += entryCount(tree, first + child);
+    }
+    return count;
+}
+
 template <typename Operation>
 std::vector<ResourceCall> callsOf(const Operation &operation)
 {
@@ -63,6 +115,7 @@ private Q_SLOTS:
     void collections_areThereAtLoad_data();
     void collections_areThereAtLoad();
     void collections_areRegisteredAtLoadWithVersion3();
+    void collections_haveTheirEntries();
 
     void initQtResources_registersMainThenTranslationsWithVersion3();
     void cleanupQtResources_addsTheZlibFeatureToTheVersion();
@@ -121,6 +174,26 @@ void tst_QtResources::collections_areRegisteredAtLoadWithVersion3()
         = [&atLoad](const ResourceCall &call) { return std::count(atLoad.cbegin(), atLoad.cend(), call) == 1; };
     const std::vector<ResourceCall> again = callsOf(&initQtResources);
     QVERIFY(std::all_of(again.cbegin(), again.cend(), isAtLoad));
+}
+
+void tst_QtResources::collections_haveTheirEntries()
+{
+    RUN_IN_FRESH_PROCESS();
+    const std::vector<ResourceCall> again = callsOf(&initQtResources);
+    QCOMPARE(entryCount(again.at(0).tree), 487); // main
+    const FolderWithDoubles fonts = folderWithDoubles(again.at(0).tree); // one of them is listed twice
+    QCOMPARE(fonts.entries, 8U);
+    QCOMPARE(fonts.names, 7);
+    QCOMPARE(entryCount(again.at(1).tree), 9); // translations
+    if (!isLoadingWatched()) {
+        return; // the other two are registered at load alone
+    }
+    std::vector<int> counts;
+    for (std::size_t i = 0; i < 4; ++i) {
+        counts.push_back(entryCount(resourceCalls().at(i).tree));
+    }
+    std::sort(counts.begin(), counts.end());
+    QCOMPARE(counts, (std::vector<int>{1, 3, 9, 487}));
 }
 
 void tst_QtResources::initQtResources_registersMainThenTranslationsWithVersion3()

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void partOfAnImage_isReadByItsRows();
     void formatsOfOtherDepths_areReadWithinTheirRows_data();
     void formatsOfOtherDepths_areReadWithinTheirRows();
+    void bufferOfTheCaller_isReadWithinItsPixels();
     void manyPixels_countInThirtyTwoBits();
 };
 
@@ -307,6 +308,21 @@ void tst_ImageComparison::formatsOfOtherDepths_areReadWithinTheirRows()
         QCOMPARE(compared(image, image, 0).difference, 0.0);
         QVERIFY(compared(image, wide, 0).difference >= 0.0);
         QVERIFY(compared(wide, image, 0).difference <= 100.0);
+    }
+}
+
+/*! Rows that begin anywhere, and a last one without what pads the others. */
+void tst_ImageComparison::bufferOfTheCaller_isReadWithinItsPixels()
+{
+    const std::vector<uchar> narrow(7 * 3, 1);
+    const QImage unaligned(narrow.data(), 7, 3, 7, QImage::Format_Grayscale8);
+    const std::vector<uchar> padded(64 * 2 + 10, 1); // on the heap, where a sanitizer guards its end
+    const QImage withoutEnd(padded.data(), 10, 3, 64, QImage::Format_Grayscale8);
+    for (const QImage &image : {unaligned, withoutEnd}) {
+        const QImage wide = filled(image.size(), 0xffffffff);
+        QVERIFY(compared(image, wide, 0).difference > 0.0);
+        QVERIFY(compared(wide, image, 0).difference > 0.0);
+        QCOMPARE(compared(image, image, 0).difference, 0.0);
     }
 }
 

@@ -39,6 +39,7 @@ public:
         if (type == QEvent::Enter || type == QEvent::Leave || type == QEvent::MouseMove) {
             types.append(type);
         }
+        paintings += type == QEvent::Paint ? 1 : 0;
         enterEvents += dynamic_cast<QEnterEvent *>(event) ? 1 : 0;
         if (const auto *mouse = dynamic_cast<QMouseEvent *>(event)) {
             places.append(mouse->position());
@@ -51,6 +52,7 @@ public:
 
     QList<QEvent::Type> types;
     QList<QPointF> places; // of mouse events
+    int paintings = 0;
     int enterEvents = 0; // that are QEnterEvents
     bool isPlain = true; // no mouse event had anything but the present state
 };
@@ -158,6 +160,7 @@ private Q_SLOTS:
     void flickHoverEvent_cursorInside_sendsLeaveAndEnter();
     void flickHoverEvent_menu_movesTheMouseTwice();
     void flickHoverEvent_menu_leavesASeparator();
+    void flickHoverEvent_paintsAgain();
     void flickHoverEvent_withoutActiveWindow_doesNothing();
 
 private:
@@ -376,6 +379,20 @@ void tst_WidgetHelpers::flickHoverEvent_menu_leavesASeparator()
     flickHoverEvent(&menu);
     QVERIFY(action->isSeparator());
     QVERIFY(!menu.activeAction());
+}
+
+void tst_WidgetHelpers::flickHoverEvent_paintsAgain()
+{
+    TrackingWindow window({200, 200});
+    TrackingWindow neighbour({400, 200});
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&neighbour));
+    QVERIFY(neighbour.takeMouse({50, 50}));
+    const EventList events(&window);
+    QCoreApplication::processEvents();
+    const int before = events.paintings;
+    flickHoverEvent(&window);
+    QTRY_COMPARE(events.paintings, before + 1);
 }
 
 void tst_WidgetHelpers::flickHoverEvent_withoutActiveWindow_doesNothing()

@@ -12,6 +12,7 @@ QLatin1StringView productVersion();
 QLatin1StringView frameworkVersion();
 QLatin1StringView crashServiceHost();
 QLatin1StringView serviceOwnerHost();
+QLatin1StringView webHost();
 
 /*! That of this library, which no variable changes. */
 QLatin1StringView libraryVersion();

@@ -13,15 +13,11 @@ namespace ZYX_zglv6 {
 
 namespace {
 
-/*! As many as a row has, whatever its format. */
+/*! As many as a row has, whatever its format; what pads it may be missing behind the last one. */
 qsizetype pixelsInRow(const QImage &image)
 {
-    return std::min<qsizetype>(image.width(), image.bytesPerLine() / qsizetype(sizeof(std::uint32_t)));
-}
-
-const std::uint32_t *rowOf(const QImage &image, int y)
-{
-    return reinterpret_cast<const std::uint32_t *>(image.constScanLine(y)); // QImage aligns its rows
+    constexpr int bitsOfPixel = 8 * int(ImageDifference::pixelSize);
+    return std::min<qsizetype>(image.width(), qsizetype(image.width()) * image.depth() / bitsOfPixel);
 }
 
 std::int32_t channelCount(const QImage &image)
@@ -44,7 +40,7 @@ imgCmpResult compareImages(const QImage &first, const QImage &second, double thr
     const auto count = static_cast<std::size_t>(std::min(pixelsInRow(first), pixelsInRow(second)));
     double sum = 0;
     for (int y = 0; y < first.height(); ++y) {
-        sum = add(sum, rowOf(first, y), rowOf(second, y), count);
+        sum = add(sum, first.constScanLine(y), second.constScanLine(y), count);
     }
     const double percent = sum * 100.0 / channelCount(first);
     if (difference) {

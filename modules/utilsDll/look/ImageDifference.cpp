@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <cstring>
 
 namespace ImageDifference {
 
@@ -20,6 +21,13 @@ constexpr std::array<double, 256> shares = [] {
     return all;
 }();
 
+std::uint32_t pixelAt(const unsigned char *row, std::size_t x)
+{
+    std::uint32_t pixel = 0;
+    std::memcpy(&pixel, row + x * pixelSize, sizeof pixel);
+    return pixel;
+}
+
 double share(std::uint32_t first, std::uint32_t second, unsigned shift)
 {
     const auto a = static_cast<int>((first >> shift) & 0xffU);
@@ -29,10 +37,12 @@ double share(std::uint32_t first, std::uint32_t second, unsigned shift)
 
 } // namespace
 
-double addPixels(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count)
+double addPixels(double sum, const unsigned char *first, const unsigned char *second, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        sum += share(first[i], second[i], 16) + share(first[i], second[i], 8) + share(first[i], second[i], 0);
+        const std::uint32_t a = pixelAt(first, i);
+        const std::uint32_t b = pixelAt(second, i);
+        sum += share(a, b, 16) + share(a, b, 8) + share(a, b, 0);
     }
     return sum;
 }

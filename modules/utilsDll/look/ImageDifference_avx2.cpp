@@ -25,13 +25,13 @@ constexpr std::size_t blockSize = 512; // pixels
 constexpr std::size_t vectorSize = 8;
 constexpr double smallestSum = 4096; // 2^12
 
-__m256i loaded(const std::uint32_t *pixels)
+__m256i loaded(const unsigned char *pixels)
 {
     return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(pixels));
 }
 
 /*! The three differences of each of eight pixels, added up: 0 to 765. */
-__m256i sumsOfChannels(const std::uint32_t *first, const std::uint32_t *second)
+__m256i sumsOfChannels(const unsigned char *first, const unsigned char *second)
 {
     const __m256i a = loaded(first);
     const __m256i b = loaded(second);
@@ -52,16 +52,16 @@ std::uint64_t sumOfLanes(__m256i lanes)
 }
 
 /*! What a block adds, in units of 2^-m. */
-std::uint64_t unitsOf(int m, const std::uint32_t *first, const std::uint32_t *second)
+std::uint64_t unitsOf(int m, const unsigned char *first, const unsigned char *second)
 {
     const __m128i shift = _mm_cvtsi32_si128(m % 8);
     const __m256i half = _mm256_set1_epi32(128);
     __m256i whole = _mm256_setzero_si256();
     __m256i rounded = _mm256_setzero_si256();
     for (std::size_t i = 0; i < blockSize; i += vectorSize) {
-        const __m256i sums = sumsOfChannels(first + i, second + i);
+        const __m256i sums = sumsOfChannels(first + i * pixelSize, second + i * pixelSize);
         whole = _mm256_add_epi32(whole, sums);
-        // x / 255 to the nearest, right for x up to 765 * 2^7
+        // the quotient by 255 to the nearest: right for each of the sums, 0 to 765, and each shift, 0 to 7
         const __m256i x = _mm256_add_epi32(_mm256_sll_epi32(sums, shift), half);
         rounded = _mm256_add_epi32(rounded, _mm256_srli_epi32(_mm256_add_epi32(x, _mm256_srli_epi32(x, 8)), 8));
     }
@@ -81,18 +81,18 @@ double powerOfTwo(int exponent)
 }
 
 /*! Passes over pixels that are equal, which add nothing. */
-double addDifferingPixels(double sum, const std::uint32_t *first, const std::uint32_t *second)
+double addDifferingPixels(double sum, const unsigned char *first, const unsigned char *second)
 {
     for (std::size_t i = 0; i < blockSize; i += vectorSize) {
-        const __m256i sums = sumsOfChannels(first + i, second + i);
+        const __m256i sums = sumsOfChannels(first + i * pixelSize, second + i * pixelSize);
         if (!_mm256_testz_si256(sums, sums)) {
-            sum = addPixels(sum, first + i, second + i, vectorSize);
+            sum = addPixels(sum, first + i * pixelSize, second + i * pixelSize, vectorSize);
         }
     }
     return sum;
 }
 
-double addBlock(double sum, const std::uint32_t *first, const std::uint32_t *second)
+double addBlock(double sum, const unsigned char *first, const unsigned char *second)
 {
     if (sum < smallestSum) {
         return addDifferingPixels(sum, first, second);
@@ -106,13 +106,13 @@ double addBlock(double sum, const std::uint32_t *first, const std::uint32_t *sec
 
 } // namespace
 
-double addPixelsByVectors(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count)
+double addPixelsByVectors(double sum, const unsigned char *first, const unsigned char *second, std::size_t count)
 {
     std::size_t done = 0;
     for (; done + blockSize <= count; done += blockSize) {
-        sum = addBlock(sum, first + done, second + done);
+        sum = addBlock(sum, first + done * pixelSize, second + done * pixelSize);
     }
-    return addPixels(sum, first + done, second + done, count - done);
+    return addPixels(sum, first + done * pixelSize, second + done * pixelSize, count - done);
 }
 
 } // namespace ImageDifference

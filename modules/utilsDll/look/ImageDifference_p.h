@@ -11,14 +11,17 @@ namespace ImageDifference {
 
 /*!
     Adds to \a sum, pixel by pixel, |r1 - r2| / 255.0 + |g1 - g2| / 255.0 + |b1 - b2| / 255.0 of 0x..RRGGBB;
-    the two rows have \a count pixels. All functions of this type give the same, to the last bit.
+    the two rows have \a count pixels of four bytes, which may lie anywhere. All functions of this type give the
+    same, to the last bit.
 */
-using AddPixels = double (*)(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count);
+using AddPixels = double (*)(double sum, const unsigned char *first, const unsigned char *second, std::size_t count);
 
-double addPixels(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count);
+double addPixels(double sum, const unsigned char *first, const unsigned char *second, std::size_t count);
 
 /*! For processors with AVX2 alone. */
-double addPixelsByVectors(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count);
+double addPixelsByVectors(double sum, const unsigned char *first, const unsigned char *second, std::size_t count);
+
+inline constexpr std::size_t pixelSize = 4; // bytes
 
 /*! The fastest one that this processor can run. */
 AddPixels fastest();

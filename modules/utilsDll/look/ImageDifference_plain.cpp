@@ -4,7 +4,7 @@
 
 namespace ImageDifference {
 
-double addPixelsByVectors(double sum, const std::uint32_t *first, const std::uint32_t *second, std::size_t count)
+double addPixelsByVectors(double sum, const unsigned char *first, const unsigned char *second, std::size_t count)
 {
     return addPixels(sum, first, second, count);
 }
