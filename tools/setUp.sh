@@ -10,7 +10,7 @@ export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,ti
 build_packages=(
     cmake ninja-build ccache g++ pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-5compat-dev libgl-dev libopengl-dev liblog4cplus-dev libminizip-dev
-    zlib1g-dev libcpp-httplib-dev libqt6sql6-sqlite fonts-dejavu-core
+    zlib1g-dev libcpp-httplib-dev libqt6sql6-sqlite libqt6svg6 fonts-dejavu-core
 )
 test_packages=(
     clang clang-format-14 libclang-rt-14-dev python3 python3-clang-14 binutils
@@ -20,7 +20,8 @@ test_packages=(
     qt6-qpa-plugins pkexec dbus-daemon colord libglib2.0-bin gvfs gvfs-daemons
 )
 run_packages=(python3-spyne)
-bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev zip unzip libzip-dev)
+gallery_packages=(fonts-droid-fallback) # for the languages that the embedded fonts have no letters of
+bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev zip unzip libzip-dev libopencv-core-dev)
 check_packages=(clang-format-14 clang-tidy-14 shellcheck)
 windows_packages=(
     xz-utils g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine wine64 xvfb xauth fonts-dejavu-core

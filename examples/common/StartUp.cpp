@@ -25,6 +25,7 @@ using namespace ZYX_zglv6;
 namespace {
 
 constexpr QLatin1StringView dataOption("data");
+constexpr QLatin1StringView languageOption("language");
 
 /*! The preferences file that an installer would have left; an existing one is the user's and stays. */
 bool writePreferencesOnce(const QString &path, const QString &workFolder)
@@ -55,12 +56,15 @@ void addStartUpOptions(QCommandLineParser &parser)
     CSettings::addPreferencesFileOption(parser);
     parser.addOption(QCommandLineOption(dataOption, u"Folder for everything that this host keeps."_qs, u"folder"_qs,
                                         QStringLiteral(EXAMPLE_WORK_FOLDER)));
+    parser.addOption(QCommandLineOption(
+        languageOption, u"Speak another language: de, en, fr, ja or zh_CN."_qs, u"abbreviation"_qs));
 }
 
 StartUpOptions readStartUpOptions(QCommandLineParser &parser)
 {
     StartUpOptions options;
     options.workFolder = QDir(parser.value(dataOption)).absolutePath();
+    options.language = parser.value(languageOption);
     // A shipping host takes CStorageLocation::getDefaultPreferencesFilePath(); an example stays out of the user's
     // folders.
     options.preferencesFile = CSettings::getPreferencesFilePathFromCommandLine(

@@ -15,14 +15,15 @@ struct StartUpOptions
 {
     QString workFolder; // for preferences, settings, logs and data
     QString preferencesFile;
+    QString language; // abbreviation of the one to speak from this start on; empty for the stored one
     bool temporarySettings = false;
     bool consoleLog = false;
 };
 
-/*! Adds the option "--data", for the work folder, and the library's option for the preferences file. */
+/*! Adds the options "--data", for the work folder, and "--language", and the library's one for the preferences file. */
 void addStartUpOptions(QCommandLineParser &parser);
 
-/*! Reads the two from a \a parser that has parsed. Ends the process if the preferences file has no name. */
+/*! Reads the three from a \a parser that has parsed. Ends the process if the preferences file has no name. */
 StartUpOptions readStartUpOptions(QCommandLineParser &parser);
 
 /*! Ends the process if a \a parser that has parsed has more than \a most arguments that belong to no option. */

@@ -3,10 +3,10 @@
 #include "SenderWindow.h"
 
 #include "ContentsView.h"
-#include "SenderLook.h"
 
 #include "storageLocation/storageLocation.h"
 #include "utilsDll/frame/LoggerInterface.h"
+#include "utilsDll/look/SharedUtils.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -90,8 +90,7 @@ CSenderWindow::CSenderWindow(CCrashReport &report, CReportDelivery &delivery, co
 {
     setObjectName(u"CrashSenderMainWindow"_qs);
     setWindowTitle(tr("%1 crash report").arg(product));
-    setWindowIcon(QIcon(u":/icons/app_icon/logo_64.png"_qs));
-    setStyleSheet(senderLook());
+    setCustomStyleSheet(this, QssLoadCrashSender, QString());
     layOut(product, destination);
     orderKeys();
     resize(firstSize);

@@ -6,6 +6,7 @@
 #include "ReportDelivery.h"
 #include "SenderWindow.h"
 
+#include "common/Look.h"
 #include "common/OwnStore.h"
 #include "common/Report.h"
 #include "common/StartUp.h"
@@ -158,6 +159,7 @@ int main(int argc, char *argv[])
     useOwnStore(options.workFolder);
     CStartUp startUp(options, u"crashSender"_qs);
     startUp.goTheWholeWay();
+    putOnLook(options.language);
 
     CCrashReport report(options.product, options.email, options.comment);
     printReport(report);

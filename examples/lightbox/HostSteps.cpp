@@ -5,6 +5,7 @@
 #include "CrashDump.h"
 #include "Options.h"
 
+#include "common/Look.h"
 #include "common/Report.h"
 
 #include "utilsDll/crashReport/zipCrashReport.h"
@@ -54,7 +55,8 @@ void watchForCrashes(const Options &options)
 
 void reportMainWindow()
 {
-    printLine(7, QLatin1StringView("window"), u"main window 0x%1"_qs.arg(mainWindowHandle(), 0, 16));
+    printLine(7, QLatin1StringView("window"),
+              u"in %1; main window 0x%2"_qs.arg(loadedLanguageName(), QString::number(mainWindowHandle(), 16)));
 }
 
 void noteLaunch()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include "HelpMenu.h"
+#include "LanguageMenu.h"
 #include "PhotoLoader.h"
 #include "PhotoService.h"
 #include "PhotoView.h"
@@ -16,12 +18,12 @@
 #include "utilsDll/files/FileUtils.h"
 #include "utilsDll/frame/LoggerInterface.h"
 #include "utilsDll/frame/SharedConstants.h"
+#include "utilsDll/look/SharedUtils.h"
 #include "utilsDll/settings/Settings.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QScopeGuard>
 #include <QtGui/QAction>
-#include <QtGui/QIcon>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QInputDialog>
@@ -54,10 +56,9 @@ CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
 {
     m_pool.setMaxThreadCount(1);
     setWindowTitle(tr("Lightbox"));
-    setWindowIcon(QIcon(u":/icons/app_icon/logo_64.png"_qs));
 
     auto *table = new QWidget;
-    table->setStyleSheet(u"background: #2d2d2d;"_qs);
+    table->setObjectName(u"centralWidget"_qs); // the sheets know it by this name
     auto *layout = new QHBoxLayout(table);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view, 1);
@@ -68,12 +69,14 @@ CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
 
     addPhotographMenu();
     addViewMenu();
+    addHelpMenu();
     registerPanel();
+    setCustomStyleSheet(this, QssLoadBaseSheets, QString());
 }
 
 CMainWindow::~CMainWindow()
 {
-    gate().clear(); // this window receives all its commands
+    gate().clear(); // they all go to this window or its menus
 }
 
 void CMainWindow::addPhotographMenu()
@@ -99,6 +102,19 @@ void CMainWindow::addViewMenu()
     auto *units = new CUnitMenu(menu);
     menu->addMenu(units);
     connect(units, &CUnitMenu::unitChanged, this, &CMainWindow::describeCurrent);
+    auto *languages = new CLanguageMenu(menu);
+    menu->addMenu(languages);
+    connect(languages, &CLanguageMenu::languageChosen, this, [this](const QString &language) {
+        statusBar()->showMessage(tr("%1 will be spoken from the next start on").arg(language));
+    });
+}
+
+void CMainWindow::addHelpMenu()
+{
+    auto *help = new CHelpMenu(menuBar());
+    menuBar()->addMenu(help);
+    connect(help, &CHelpMenu::linkChosen, this,
+            [this](const QUrl &address) { statusBar()->showMessage(address.toDisplayString()); });
 }
 
 void CMainWindow::registerPanel()

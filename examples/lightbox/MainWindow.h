@@ -23,7 +23,8 @@ class QMenu;
 
 /*!
     The window: one photograph, the way to the next, a panel of settings, and what there is to know of it in the status
-    bar. Every command but leaving goes through the gate for commands, which is closed while a photograph is loaded.
+    bar. Every command but leaving and help goes through the gate for commands, which is closed while a photograph
+    is loaded.
 */
 class CMainWindow final : public QMainWindow
 {
@@ -81,6 +82,7 @@ public Q_SLOTS:
 private:
     void addPhotographMenu();
     void addViewMenu();
+    void addHelpMenu();
     void registerPanel();
     QAction *addCommand(QMenu *menu, const QString &text, const QKeySequence &shortcut, const char *slot);
     void addSwitch(QMenu *menu, const QString &text, const QKeySequence &shortcut, bool isOn, const char *slot);

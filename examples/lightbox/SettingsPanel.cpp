@@ -12,10 +12,10 @@ namespace {
 
 // The rows are found by the names that the library gives to their parts. A caption as wide as its column ends beside
 // the button.
-constexpr QLatin1StringView look("#settingsPushButtonLabel { color: #c8c8c8; min-width: 110px; padding-right: 8px; }"
-                                 "#settingsPushButtonButton { border: 1px solid #6e6e6e; border-radius: 4px; }"
-                                 "#settingsPushButtonButton:hover { border-color: #c8c8c8; }"
-                                 "#settingsPushButtonButton:checked { background: #e0a030; border-color: #e0a030; }");
+constexpr QLatin1StringView look("#settingsPushButtonLabel { min-width: 110px; padding-right: 8px; }"
+                                 "#settingsPushButtonButton { border: 1px solid #3b3b3b; border-radius: 4px; }"
+                                 "#settingsPushButtonButton:hover { border-color: #cccccc; }"
+                                 "#settingsPushButtonButton:checked { background: #a33f12; border-color: #ce7044; }");
 constexpr int rowSpacing = 12;
 
 } // namespace
@@ -23,6 +23,8 @@ constexpr int rowSpacing = 12;
 CSettingsPanel::CSettingsPanel(QWidget *parent)
     : QWidget(parent)
 {
+    setObjectName(u"settingsPanel"_qs); // the sheets know it by this name
+    setAttribute(Qt::WA_StyledBackground); // for its ground
     setProperty("GUID", u"lightbox.panel"_qs);
     setStyleSheet(look);
     auto *rows = new QVBoxLayout(this);

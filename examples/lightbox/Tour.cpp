@@ -7,11 +7,14 @@
 #include "PhotoService.h"
 #include "SettingsPanel.h"
 
+#include "common/Look.h"
 #include "common/Report.h"
 
 #include "storageLocation/storageLocation.h"
 #include "utilsDll/dialogs/SettingsPushButton.h"
 #include "utilsDll/eventLoop/RunnableItem.h"
+#include "utilsDll/look/LanguageManager.h"
+#include "utilsDll/look/RedirectionLinks.h"
 #include "utilsDll/settings/Settings.h"
 
 #include <QtCore/QCoreApplication>
@@ -21,6 +24,7 @@
 #include <QtCore/QScopeGuard>
 #include <QtCore/QThread>
 #include <QtGui/QAction>
+#include <QtGui/QStandardItemModel>
 
 #include <utility>
 
@@ -121,6 +125,7 @@ void CTour::commandCarriedOut()
     loadingWithoutPatience();
     questions();
     files();
+    languages();
     crash();
     Q_EMIT finished(); // keep last
 }
@@ -168,6 +173,23 @@ void CTour::files()
               tourFiles(m_window.currentPath(), m_window.currentSize(), m_options.workFolder));
 }
 
+/*! Chooses the next language, and goes back. */
+void CTour::languages()
+{
+    CLanguageManager &languages = CLanguageManager::getInstance();
+    const int before = languages.currentLanguageIndex();
+    if (before < 0) {
+        printLine(18, QLatin1StringView("language"), u"the chosen one is not there"_qs);
+        return;
+    }
+    languages.changeLanguage((before + 1) % languages.langCount());
+    const QString chosen = languages.model()->index(languages.currentLanguageIndex(), 0).data().toString();
+    printLine(18, QLatin1StringView("language"),
+              u"%1 was chosen for the next start, now it is still %2; help lies at %3"_qs.arg(
+                  chosen, loadedLanguageName(), CRedirectionLinks::get(CRedirectionLinks::linkHelp, languages)));
+    languages.changeLanguage(before);
+}
+
 /*! Another host like this one dies. It logs to its standard output: this one's log file is open. */
 void CTour::crash()
 {
@@ -179,7 +201,7 @@ void CTour::crash()
                 m_options.photos});
     const qint64 process = host.processId();
     const bool isOver = host.waitForFinished(crashPatienceMs);
-    printLine(18, QLatin1StringView("crash"),
+    printLine(19, QLatin1StringView("crash"),
               isOver ? u"another lightbox %1; it left %2"_qs.arg(deathOf(host), dumpOf(process))
                      : u"another lightbox did not crash: %1"_qs.arg(host.errorString()));
 }

@@ -7,6 +7,7 @@
 #include "Options.h"
 #include "Tour.h"
 
+#include "common/Look.h"
 #include "common/OwnStore.h"
 #include "common/Report.h"
 #include "common/StartUp.h"
@@ -44,6 +45,7 @@ int main(int argc, char *argv[])
     CStartUp startUp(options, u"lightbox"_qs);
     startUp.goTheWholeWay();
     watchForCrashes(options);
+    putOnLook(options.language);
 
     CMainWindow window(options.photos);
     application.setMainWindow(&window);
@@ -62,6 +64,6 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    printLine(19, QLatin1StringView("left"), u"with %1"_qs.arg(result));
+    printLine(20, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }

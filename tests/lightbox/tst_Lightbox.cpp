@@ -52,6 +52,8 @@ private Q_SLOTS:
     void tour_showsWhatTheGateDoesWithCommands();
     void tour_showsWhatCanBeDoneWithFiles();
     void tourOfANameThatIsNotValid_copiesUnderAnother();
+    void tour_showsWhatAChoiceOfLanguageDoes();
+    void chosenLanguage_staysForLaterStarts();
     void secondTour_findsThePanelAsTheFirstLeftIt();
     void tourWithAService_showsAnswerFaultAndRefusal();
     void snapshotOfTheTour_showsTheFrameAndThePanel();
@@ -115,7 +117,7 @@ void tst_Lightbox::start_printsOneLineForEachStep()
     QVERIFY(!first.step(7).endsWith(u" 0x0"));
     QVERIFY2(first.step(8).contains(u"the first, last mode \"\", user "), qPrintable(first.step(8)));
     QVERIFY(first.step(9).endsWith(u" no state stored yet"));
-    QVERIFY(first.step(19).endsWith(u" with 0"));
+    QVERIFY(first.step(20).endsWith(u" with 0"));
     QCOMPARE(first.lines.size(), 11); // the logger has a line of its own
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }
@@ -229,6 +231,30 @@ void tst_Lightbox::tourOfANameThatIsNotValid_copiesUnderAnother()
     QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList(u"a:b.jpg"_qs));
 }
 
+void tst_Lightbox::tour_showsWhatAChoiceOfLanguageDoes()
+{
+    const Run host = run({u"--tour"_qs});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    static const QRegularExpression form(
+        u"^18 language    (\\S+) was chosen for the next start, now it is still English; "
+        "help lies at https://[^/]+/en/redirect/gl6/help$"_qs);
+    const QRegularExpressionMatch match = form.match(host.step(18));
+    QVERIFY2(match.hasMatch() && match.captured(1) != u"English", qPrintable(host.step(18)));
+}
+
+void tst_Lightbox::chosenLanguage_staysForLaterStarts()
+{
+    const Run first = run({});
+    QVERIFY2(first.step(7).contains(u" in English; main window 0x"), qPrintable(first.step(7)));
+    const Run chosen = run({u"--language"_qs, u"de"_qs});
+    QVERIFY2(chosen.step(7).contains(u" in Deutsch; main window 0x"), qPrintable(chosen.step(7)));
+    const Run later = run({});
+    QVERIFY2(later.step(7).contains(u" in Deutsch; main window 0x"), qPrintable(later.step(7)));
+    const Run wrong = run({u"--language"_qs, u"xx"_qs});
+    QVERIFY2(wrong.isClean && wrong.step(7).contains(u" in Deutsch; "), qPrintable(wrong.step(7)));
+    QVERIFY2(wrong.errors.contains(u"there is no language xx"), qPrintable(wrong.errors));
+}
+
 void tst_Lightbox::secondTour_findsThePanelAsTheFirstLeftIt()
 {
     QVERIFY(run({u"--tour"_qs}).isClean);
@@ -282,7 +308,7 @@ void tst_Lightbox::snapshotOfTheTour_showsTheFrameAndThePanel()
         return count;
     };
     const QRect panel(window.width() - 170, 30, 170, window.height() - 60);
-    QVERIFY(countOf(QColor(0xe0, 0xa0, 0x30), panel) > 20 * 20); // the pressed button
+    QVERIFY(countOf(QColor(0xa3, 0x3f, 0x12), panel) > 20 * 20); // the pressed button
     const QRect view(0, 30, window.width() - 180, window.height() - 60);
     QVERIFY(countOf(Qt::white, view) > 4 * 12 * 300); // twelve pixels around the photograph
 }

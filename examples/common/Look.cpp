@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "common/Look.h"
+
+#include "utilsDll/look/LanguageManager.h"
+#include "utilsDll/look/SharedUtils.h"
+#include "utilsDll/look/customzyxappstyle.h"
+
+#include <QtCore/QTextStream>
+#include <QtGui/QStandardItemModel>
+#include <QtWidgets/QApplication>
+
+using namespace ZYX_zglv6;
+
+namespace {
+
+constexpr int abbreviationColumn = 3;
+
+void chooseLanguage(const QString &abbreviation)
+{
+    CLanguageManager &languages = CLanguageManager::getInstance();
+    languages.loadLanguages();
+    const QList<QStandardItem *> found
+        = languages.model()->findItems(abbreviation, Qt::MatchExactly, abbreviationColumn);
+    if (found.isEmpty()) {
+        QTextStream(stderr) << QCoreApplication::applicationName() << ": there is no language " << abbreviation
+                            << Qt::endl;
+        return;
+    }
+    languages.changeLanguage(found.front()->row());
+}
+
+} // namespace
+
+void putOnLook(const QString &language)
+{
+    addApplicationFonts();
+    if (!language.isEmpty()) {
+        chooseLanguage(language);
+    }
+    CLanguageManager::getInstance().loadLanguageForApp();
+    setupApplicationIcon();
+    QApplication::setStyle(new CustomZyxAppStyle); // the application owns it
+}
+
+QString loadedLanguageName()
+{
+    CLanguageManager &languages = CLanguageManager::getInstance();
+    const int row = languages.getLanguageIndexFromId(int(languages.loadedLanguageID()));
+    return row < 0 ? u"the source's language"_qs : languages.model()->index(row, 0).data().toString();
+}

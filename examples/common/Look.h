@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QString>
+
+/*!
+    What an application object needs for the product's look, in the order that binds: fonts, texts, icon, style. After
+    it exists, and before any window does; a window still gets its style sheet by itself. \a language becomes the chosen
+    one if it is not empty; one that is not there is told and changes nothing.
+*/
+void putOnLook(const QString &language);
+
+/*! The language that the texts are in, as its speakers call it; "the source's language" if none could be loaded. */
+QString loadedLanguageName();

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "GalleryWindow.h"
+
+#include "SheetPage.h"
+
+#include "utilsDll/look/LanguageManager.h"
+#include "utilsDll/look/SharedUtils.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtGui/QStandardItemModel>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace ZYX_zglv6;
+
+namespace {
+
+constexpr QSize firstSize(1100, 780);
+constexpr int listWidth = 160;
+constexpr int abbreviationColumn = 3;
+
+/*! In the order in which the library joins them; one that is not there, or empty, has no page. */
+QStringList sheetNames()
+{
+    const QString language = CLanguageManager::getInstance().currentLanguageAbbrv();
+    return {u"custom"_qs,      u"win"_qs,          u"menu"_qs,        u"toolBar"_qs,
+            u"previewArea"_qs, u"sideBar"_qs,      u"combobox"_qs,    u"slider"_qs,
+            u"tools"_qs,       u"dialogs"_qs,      u"timeMachine"_qs, u"extra-"_qs + language,
+            u"essintial"_qs,   u"crash_sender"_qs, u"printing"_qs};
+}
+
+QString pathOf(const QString &name)
+{
+    return u":/qss/"_qs + name + u".qss";
+}
+
+} // namespace
+
+CGalleryWindow::CGalleryWindow(QWidget *parent)
+    : QSplitter(parent)
+    , m_list(new QListWidget)
+    , m_stack(new QStackedWidget)
+{
+    setWindowTitle(tr("Gallery"));
+    auto *side = new QWidget;
+    auto *layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(newLanguageBox());
+    layout->addWidget(m_list);
+    addWidget(side);
+    addWidget(m_stack);
+    setSizes({listWidth, firstSize.width() - listWidth});
+    resize(firstSize);
+    for (const QString &name : sheetNames()) {
+        if (QFileInfo(pathOf(name)).size() > 0) {
+            addPage(name);
+        }
+    }
+    connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
+    m_list->setCurrentRow(0);
+    setCustomStyleSheet(this, QssLoadBaseSheets, u":/gallery/gallery.qss"_qs);
+}
+
+QList<CSheetPage *> CGalleryWindow::pages() const
+{
+    return m_pages;
+}
+
+QStringList CGalleryWindow::writePages(const QString &folder, const QString &language) const
+{
+    QDir().mkpath(folder);
+    QStringList written;
+    for (qsizetype i = 0; i < m_pages.size(); ++i) {
+        const QString name
+            = u"%1-%2-%3.png"_qs.arg(language, QString::number(i + 1).rightJustified(2, u'0'), m_names.at(i));
+        if (m_pages.at(i)->grab().save(QDir(folder).filePath(name))) {
+            written.append(name);
+        }
+    }
+    return written;
+}
+
+QWidget *CGalleryWindow::newLanguageBox()
+{
+    CLanguageManager &languages = CLanguageManager::getInstance();
+    auto *box = new QComboBox;
+    box->setModel(languages.model());
+    box->setCurrentIndex(languages.currentLanguageIndex());
+    connect(box, &QComboBox::activated, this, [this, &languages](int row) {
+        Q_EMIT languageWanted(languages.model()->index(row, abbreviationColumn).data().toString());
+    });
+    return box;
+}
+
+void CGalleryWindow::addPage(const QString &name)
+{
+    auto *page = new CSheetPage(pathOf(name));
+    page->resize(page->sizeHint());
+    auto *area = new QScrollArea;
+    area->setObjectName(u"gallery"_qs);
+    area->setWidget(page);
+    m_stack->addWidget(area);
+    m_list->addItem(name);
+    m_pages.append(page);
+    m_names.append(name);
+}
