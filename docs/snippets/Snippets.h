@@ -18,16 +18,19 @@
 
 class QAction;
 class QAtomicInt;
+class QComboBox;
 class QImage;
 class QObject;
 class QPainter;
 class QPoint;
 class QPolygonF;
+class QPushButton;
 class QUrl;
 class QWidget;
 
 namespace ZYX_zglv6 {
 class CSettingsPushButton;
+class CustomZyxAppStyle;
 class CZipCrashReport;
 class QtSoapHttpTransport;
 class QtSoapStruct;
@@ -138,6 +141,11 @@ int readAnswer(const std::string &path, const std::function<void(const char *pix
 
 // look.cpp
 
+void startLook();
+void dressWindow(QWidget &window);
+void keepStill(ZYX_zglv6::CustomZyxAppStyle &style, QPushButton &shutter, QPushButton &zoom);
+std::unique_ptr<QComboBox> newLanguageBox();
+QUrl guideAddress();
 void paintPreview(QPainter &painter, const QImage &photograph, const QPoint &place);
 bool isVisiblyChanged(const QImage &before, const QImage &after);
 

@@ -1,20 +1,86 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "Snippets.h"
+#include "support/Sandbox.h"
 
+#include "utilsDll/look/LanguageManager.h"
+#include "utilsDll/look/customzyxappstyle.h"
+
+#include <QtCore/QUrl>
+#include <QtGui/QFontDatabase>
+#include <QtGui/QIcon>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QPushButton>
+
+using namespace ZYX_zglv6;
 
 /*! Runs the examples of the page on the look. */
 class tst_LookSnippets : public QObject
 {
     Q_OBJECT
 
+    TestSupport::Sandbox m_sandbox; // the choice of a language is a setting
+
 private Q_SLOTS:
+    void startLook_bringsFontsLanguageIconAndStyle();
+    void dressWindow_makesADialogDark();
+    void keepStill_turnsTheShiftOff();
+    void languageBox_storesTheChoice();
+    void guideAddress_isInTheLoadedLanguage();
     void paintPreview_hasShadowAndGroove();
     void isVisiblyChanged_fromAHundredthOn();
 };
+
+void tst_LookSnippets::startLook_bringsFontsLanguageIconAndStyle()
+{
+    Snippets::startLook();
+    QVERIFY(QFontDatabase::hasFamily(u"Roboto Light"_qs));
+    QCOMPARE(CLanguageManager::getInstance().loadedLanguageID(), 1033U);
+    QVERIFY(!QGuiApplication::windowIcon().isNull());
+    QVERIFY(qobject_cast<CustomZyxAppStyle *>(QApplication::style()));
+}
+
+void tst_LookSnippets::dressWindow_makesADialogDark()
+{
+    QDialog dialog;
+    dialog.resize(100, 50);
+    Snippets::dressWindow(dialog);
+    QCOMPARE(dialog.grab().toImage().pixelColor(50, 25), QColor(0x23, 0x23, 0x23));
+}
+
+void tst_LookSnippets::keepStill_turnsTheShiftOff()
+{
+    CustomZyxAppStyle style;
+    QPushButton shutter;
+    QPushButton zoom;
+    QVERIFY(style.pixelMetric(QStyle::PM_ButtonShiftVertical, nullptr, &shutter) != 0);
+    Snippets::keepStill(style, shutter, zoom);
+    QCOMPARE(style.pixelMetric(QStyle::PM_ButtonShiftVertical, nullptr, &shutter), 0);
+    QCOMPARE(style.pixelMetric(QStyle::PM_ButtonShiftVertical, nullptr, &zoom), 0);
+}
+
+void tst_LookSnippets::languageBox_storesTheChoice()
+{
+    CLanguageManager &languages = CLanguageManager::getInstance();
+    languages.loadLanguages();
+    const std::unique_ptr<QComboBox> box = Snippets::newLanguageBox();
+    QCOMPARE(box->currentText(), u"English"_qs);
+    const int german = box->findText(u"Deutsch"_qs);
+    Q_EMIT box->activated(german);
+    QCOMPARE(languages.currentLanguageIndex(), german);
+    languages.resetToEnglish();
+}
+
+void tst_LookSnippets::guideAddress_isInTheLoadedLanguage()
+{
+    CLanguageManager::getInstance().loadLanguageForApp();
+    QCOMPARE(Snippets::guideAddress().path(), u"/en/redirect/gl6/user-guide.pdf"_qs);
+}
 
 void tst_LookSnippets::paintPreview_hasShadowAndGroove()
 {
