@@ -19,8 +19,8 @@ test_packages=(
     zip unzip libzip-dev chromium chromium-driver python3-selenium
     qt6-qpa-plugins pkexec dbus-daemon colord libglib2.0-bin gvfs gvfs-daemons
 )
-run_packages=(python3-spyne)
 gallery_packages=(fonts-droid-fallback) # for the languages that the embedded fonts have no letters of
+run_packages=(python3-spyne "${gallery_packages[@]}")
 bench_packages=(libbenchmark-dev libspdlog-dev gsoap libgsoap-dev zip unzip libzip-dev libopencv-core-dev)
 check_packages=(clang-format-14 clang-tidy-14 shellcheck)
 windows_packages=(

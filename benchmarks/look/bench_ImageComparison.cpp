@@ -10,6 +10,8 @@
 #include <benchmark/benchmark.h>
 #include <opencv2/core.hpp>
 
+#include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace {

@@ -14,14 +14,12 @@ using namespace ZYX_zglv6;
 
 namespace {
 
-constexpr int abbreviationColumn = 3;
-
 void chooseLanguage(const QString &abbreviation)
 {
     CLanguageManager &languages = CLanguageManager::getInstance();
     languages.loadLanguages();
     const QList<QStandardItem *> found
-        = languages.model()->findItems(abbreviation, Qt::MatchExactly, abbreviationColumn);
+        = languages.model()->findItems(abbreviation, Qt::MatchExactly, languageAbbreviationColumn);
     if (found.isEmpty()) {
         QTextStream(stderr) << QCoreApplication::applicationName() << ": there is no language " << abbreviation
                             << Qt::endl;
@@ -47,5 +45,5 @@ QString loadedLanguageName()
 {
     CLanguageManager &languages = CLanguageManager::getInstance();
     const int row = languages.getLanguageIndexFromId(int(languages.loadedLanguageID()));
-    return row < 0 ? u"the source's language"_qs : languages.model()->index(row, 0).data().toString();
+    return row < 0 ? u"the source's language"_qs : languages.model()->index(row, languageNameColumn).data().toString();
 }

@@ -4,6 +4,10 @@
 
 #include <QtCore/QString>
 
+// Columns of the model of languages.
+inline constexpr int languageNameColumn = 0;
+inline constexpr int languageAbbreviationColumn = 3;
+
 /*!
     What an application object needs for the product's look, in the order that binds: fonts, texts, icon, style. After
     it exists, and before any window does; a window still gets its style sheet by itself. \a language becomes the chosen

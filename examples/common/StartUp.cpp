@@ -56,8 +56,8 @@ void addStartUpOptions(QCommandLineParser &parser)
     CSettings::addPreferencesFileOption(parser);
     parser.addOption(QCommandLineOption(dataOption, u"Folder for everything that this host keeps."_qs, u"folder"_qs,
                                         QStringLiteral(EXAMPLE_WORK_FOLDER)));
-    parser.addOption(QCommandLineOption(
-        languageOption, u"Speak another language: de, en, fr, ja or zh_CN."_qs, u"abbreviation"_qs));
+    parser.addOption(
+        QCommandLineOption(languageOption, u"Speak another language, such as \"de\"."_qs, u"abbreviation"_qs));
 }
 
 StartUpOptions readStartUpOptions(QCommandLineParser &parser)

@@ -4,6 +4,8 @@
 
 #include "SheetPage.h"
 
+#include "common/Look.h"
+
 #include "utilsDll/look/LanguageManager.h"
 #include "utilsDll/look/SharedUtils.h"
 
@@ -12,7 +14,6 @@
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QListWidget>
-#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
 
@@ -22,7 +23,6 @@ namespace {
 
 constexpr QSize firstSize(1100, 780);
 constexpr int listWidth = 160;
-constexpr int abbreviationColumn = 3;
 
 /*! In the order in which the library joins them; one that is not there, or empty, has no page. */
 QStringList sheetNames()
@@ -48,6 +48,8 @@ CGalleryWindow::CGalleryWindow(QWidget *parent)
 {
     setWindowTitle(tr("Gallery"));
     auto *side = new QWidget;
+    side->setObjectName(u"galleryPage"_qs); // for the same ground
+    side->setAttribute(Qt::WA_StyledBackground);
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(newLanguageBox());
@@ -63,7 +65,8 @@ CGalleryWindow::CGalleryWindow(QWidget *parent)
     }
     connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
     m_list->setCurrentRow(0);
-    setCustomStyleSheet(this, QssLoadBaseSheets, u":/gallery/gallery.qss"_qs);
+    // Not the window: each page shall wear its own sheets and no others.
+    setCustomStyleSheet(side, QssLoadBaseSheets, u":/gallery/gallery.qss"_qs);
 }
 
 QList<CSheetPage *> CGalleryWindow::pages() const
@@ -78,7 +81,7 @@ QStringList CGalleryWindow::writePages(const QString &folder, const QString &lan
     for (qsizetype i = 0; i < m_pages.size(); ++i) {
         const QString name
             = u"%1-%2-%3.png"_qs.arg(language, QString::number(i + 1).rightJustified(2, u'0'), m_names.at(i));
-        if (m_pages.at(i)->grab().save(QDir(folder).filePath(name))) {
+        if (m_pages.at(i)->widget()->grab().save(QDir(folder).filePath(name))) {
             written.append(name);
         }
     }
@@ -92,7 +95,9 @@ QWidget *CGalleryWindow::newLanguageBox()
     box->setModel(languages.model());
     box->setCurrentIndex(languages.currentLanguageIndex());
     connect(box, &QComboBox::activated, this, [this, &languages](int row) {
-        Q_EMIT languageWanted(languages.model()->index(row, abbreviationColumn).data().toString());
+        if (row != languages.currentLanguageIndex()) {
+            Q_EMIT languageWanted(languages.model()->index(row, languageAbbreviationColumn).data().toString());
+        }
     });
     return box;
 }
@@ -100,11 +105,7 @@ QWidget *CGalleryWindow::newLanguageBox()
 void CGalleryWindow::addPage(const QString &name)
 {
     auto *page = new CSheetPage(pathOf(name));
-    page->resize(page->sizeHint());
-    auto *area = new QScrollArea;
-    area->setObjectName(u"gallery"_qs);
-    area->setWidget(page);
-    m_stack->addWidget(area);
+    m_stack->addWidget(page);
     m_list->addItem(name);
     m_pages.append(page);
     m_names.append(name);

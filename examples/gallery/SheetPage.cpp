@@ -86,16 +86,20 @@ QPixmap popUpOf(QWidget *specimen)
 } // namespace
 
 CSheetPage::CSheetPage(const QString &sheetPath, QWidget *parent)
-    : QWidget(parent)
-    , m_grid(new QGridLayout(this))
+    : QScrollArea(parent)
 {
-    setObjectName(u"galleryPage"_qs);
+    setObjectName(u"gallery"_qs);
+    auto *page = new QWidget;
+    page->setObjectName(u"galleryPage"_qs);
+    m_grid = new QGridLayout(page);
     addHeading(sheetPath);
     addRows(contentOf(sheetPath));
     m_grid->setColumnStretch(m_grid->columnCount(), 1);
     m_grid->setRowStretch(m_grid->rowCount(), 1);
+    setWidget(page);
     setCustomStyleSheet(this, optionsFor(sheetPath), u":/gallery/gallery.qss"_qs);
     addPopUps();
+    page->resize(page->sizeHint());
 }
 
 int CSheetPage::selectorCount() const

@@ -4,7 +4,7 @@
 
 #include "Selectors.h"
 
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QScrollArea>
 
 class QGridLayout;
 
@@ -14,7 +14,7 @@ class QGridLayout;
     under the mouse, such as handles, have to be tried with one. The page wears the sheets as a window of the
     product does.
 */
-class CSheetPage final : public QWidget
+class CSheetPage final : public QScrollArea
 {
     Q_OBJECT
 

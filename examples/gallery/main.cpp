@@ -14,6 +14,7 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
 #include <QtWidgets/QApplication>
 
@@ -43,6 +44,16 @@ void printSelectors(const CGalleryWindow &window)
                         << Qt::endl;
 }
 
+/*! The language is a matter of the start: another gallery shows it. */
+void showInstead(CGalleryWindow &window, const QString &language)
+{
+    if (QProcess::startDetached(QCoreApplication::applicationFilePath(), {u"--language"_qs, language})) {
+        window.close();
+    } else {
+        QTextStream(stderr) << "gallery: another one could not be started" << Qt::endl;
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -51,28 +62,24 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Shows every control that the product's style sheets are for."_qs);
     parser.addHelpOption();
-    addStartUpOptions(parser);
+    const QCommandLineOption language(u"language"_qs, u"Language, such as \"de\"."_qs, u"abbreviation"_qs);
     const QCommandLineOption output(u"output"_qs, u"Write the pages as pictures, and leave."_qs, u"folder"_qs);
-    parser.addOption(output);
+    parser.addOptions({language, output});
     parser.process(application);
     refuseSurplusArguments(parser, 0);
 
-    const StartUpOptions options = readStartUpOptions(parser);
-    QDir().mkpath(options.workFolder);
-    useOwnStore(options.workFolder);
-    CTemporarySettings settings{QDir(options.workFolder)}; // the language of this run is no choice for others
+    const QTemporaryDir folder;
+    useOwnStore(folder.path());
+    CTemporarySettings settings{QDir(folder.path())}; // the language of this run is no choice for others
     CSettings::setTemporarySettings(settings);
-    putOnLook(options.language);
+    putOnLook(parser.value(language));
     CGalleryWindow window;
     printSelectors(window);
     if (parser.isSet(output)) {
         return writePages(window, parser.value(output));
     }
-    QObject::connect(&window, &CGalleryWindow::languageWanted, &window, [&](const QString &language) {
-        QProcess::startDetached(QCoreApplication::applicationFilePath(),
-                                {u"--data"_qs, options.workFolder, u"--language"_qs, language});
-        window.close();
-    });
+    QObject::connect(&window, &CGalleryWindow::languageWanted, &window,
+                     [&window](const QString &wanted) { showInstead(window, wanted); });
     window.show();
     return QApplication::exec();
 }

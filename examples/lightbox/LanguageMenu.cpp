@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "LanguageMenu.h"
 
+#include "common/Look.h"
+
 #include "utilsDll/actions/ActionManager.h"
 #include "utilsDll/look/LanguageManager.h"
 
@@ -18,7 +20,7 @@ CLanguageMenu::CLanguageMenu(QWidget *parent)
     m_languages->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional); // the choice may be none of them
     CLanguageManager &languages = CLanguageManager::getInstance();
     for (int row = 0; row < languages.langCount(); ++row) {
-        addLanguage(languages.model()->index(row, 0).data().toString(), row);
+        addLanguage(languages.model()->index(row, languageNameColumn).data().toString(), row);
     }
     markChosen();
     // Through a closed gate a command comes later or, after another one, never; its mark came at once.
@@ -36,6 +38,9 @@ void CLanguageMenu::addLanguage(const QString &name, int row)
 
 void CLanguageMenu::useWanted()
 {
+    if (m_wanted < 0) {
+        return;
+    }
     const bool isChanged = CLanguageManager::getInstance().changeLanguage(m_wanted);
     markChosen();
     if (isChanged) {

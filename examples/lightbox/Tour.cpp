@@ -183,7 +183,8 @@ void CTour::languages()
         return;
     }
     languages.changeLanguage((before + 1) % languages.langCount());
-    const QString chosen = languages.model()->index(languages.currentLanguageIndex(), 0).data().toString();
+    const QString chosen
+        = languages.model()->index(languages.currentLanguageIndex(), languageNameColumn).data().toString();
     printLine(18, QLatin1StringView("language"),
               u"%1 was chosen for the next start, now it is still %2; help lies at %3"_qs.arg(
                   chosen, loadedLanguageName(), CRedirectionLinks::get(CRedirectionLinks::linkHelp, languages)));

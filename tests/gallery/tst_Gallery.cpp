@@ -46,8 +46,7 @@ private:
 Run tst_Gallery::run(const QStringList &arguments) const
 {
     QProcess gallery;
-    gallery.start(QDir(QCoreApplication::applicationDirPath()).filePath(u"gallery"_qs),
-                  QStringList{u"--data"_qs, m_sandbox.filePath(u"work"_qs)} + arguments);
+    gallery.start(QDir(QCoreApplication::applicationDirPath()).filePath(u"gallery"_qs), arguments);
     Run result;
     result.isClean = gallery.waitForFinished(watchdogMs) && gallery.exitStatus() == QProcess::NormalExit
         && gallery.exitCode() == 0;

@@ -24,6 +24,9 @@
 #include <QtGui/QStandardItemModel>
 #include <QtTest/QTest>
 
+#include <algorithm>
+#include <memory>
+
 using namespace ZYX_zglv6;
 
 namespace {

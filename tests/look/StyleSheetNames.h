@@ -7,7 +7,7 @@
 // Whom the sheets look for. A name that is changed here is changed in the sheets, in the documents and in the hosts.
 namespace StyleSheets {
 
-/*! Object names that the library's own widgets have. */
+/*! Object names that the library gives, or will give, to its own widgets. */
 QStringList ownObjectNames();
 
 /*! Object names that hosts give to their windows and panels, and to what lies in them. */

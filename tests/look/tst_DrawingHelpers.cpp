@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/AssertionReports.h"
 
+#include "support/FreshProcess.h"
+
+#include "utilsDll/frame/QtResources.h"
 #include "utilsDll/look/GuiUtils.h"
 
 #include <QtGui/QIconEngine>
@@ -123,6 +126,7 @@ private Q_SLOTS:
     void drawShadowRect_liesAroundTheRectangle_data();
     void drawShadowRect_liesAroundTheRectangle();
     void drawShadowRect_hasEightPiecesInTheirPlaces();
+    void drawShadowRect_loadsItsImagesOnce();
     void drawShadowRect_growsPalerOutwards();
     void drawShadowRect_invalidRectangle_drawsNothing();
     void drawRoundedImageBorder_hasEightParts_data();
@@ -272,6 +276,18 @@ void tst_DrawingHelpers::drawShadowRect_hasEightPiecesInTheirPlaces()
         painter.drawPixmap(8, 5, 20, 1, piece("top"));
     });
     QCOMPARE(image, expected);
+}
+
+void tst_DrawingHelpers::drawShadowRect_loadsItsImagesOnce()
+{
+    RUN_IN_FRESH_PROCESS();
+    const auto shadow = [] {
+        return painted({40, 32}, [](QPainter &painter) { drawShadowRect(&painter, QRect(8, 6, 20, 12)); });
+    };
+    const QImage before = shadow();
+    cleanupQtResources();
+    QVERIFY(QPixmap(u":/icons/backgroungs/preview-shadow-left.png"_qs).isNull());
+    QCOMPARE(shadow(), before);
 }
 
 void tst_DrawingHelpers::drawShadowRect_growsPalerOutwards()

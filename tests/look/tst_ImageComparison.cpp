@@ -4,14 +4,16 @@
 
 #include <QtCore/QList>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QThread>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <functional>
-#include <limits>
 #include <memory>
+#include <vector>
 
 using namespace ZYX_zglv6;
 
@@ -99,6 +101,7 @@ private Q_SLOTS:
     void partOfAnImage_isReadByItsRows();
     void formatsOfOtherDepths_areReadWithinTheirRows_data();
     void formatsOfOtherDepths_areReadWithinTheirRows();
+    void anyThread_givesTheSame();
     void bufferOfTheCaller_isReadWithinItsPixels();
     void manyPixels_countInThirtyTwoBits();
 };
@@ -309,6 +312,24 @@ void tst_ImageComparison::formatsOfOtherDepths_areReadWithinTheirRows()
         QVERIFY(compared(image, wide, 0).difference >= 0.0);
         QVERIFY(compared(wide, image, 0).difference <= 100.0);
     }
+}
+
+void tst_ImageComparison::anyThread_givesTheSame()
+{
+    QRandomGenerator dice(9);
+    const QImage first = painted({2000, 100}, [&dice] { return dice.generate(); });
+    const QImage second = painted({2000, 100}, [&dice] { return dice.generate(); });
+    const double here = compared(first, second, 0).difference;
+    QList<double> there(4, -1.0);
+    std::vector<std::unique_ptr<QThread>> threads;
+    for (double &difference : there) {
+        threads.emplace_back(QThread::create([&] { compareImages(first, second, 0.0, &difference); }));
+        threads.back()->start();
+    }
+    for (const std::unique_ptr<QThread> &thread : threads) {
+        QVERIFY(thread->wait());
+    }
+    QCOMPARE(there, QList<double>(4, here));
 }
 
 /*! Rows that begin anywhere, and a last one without what pads the others. */

@@ -5,12 +5,16 @@
 #include "utilsDll/frame/QtResources.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QResource>
+#include <QtCore/QSet>
 #include <QtGui/QImage>
 #include <QtGui/QImageReader>
 #include <QtTest/QTest>
+
+#include <algorithm>
 
 using namespace ZYX_zglv6;
 

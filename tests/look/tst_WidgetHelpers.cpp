@@ -360,6 +360,9 @@ void tst_WidgetHelpers::flickHoverEvent_menu_movesTheMouseTwice()
     EventList events(&menu);
     flickHoverEvent(&menu);
     QCOMPARE(events.types, (QList<QEvent::Type>{QEvent::Leave, QEvent::Enter, QEvent::MouseMove, QEvent::MouseMove}));
+    const QPointF place = menu.actionGeometry(second).center();
+    QCOMPARE(events.places, (QList<QPointF>{place, place}));
+    QVERIFY(events.isPlain);
     QCOMPARE(menu.activeAction(), second);
 }
 
@@ -390,7 +393,13 @@ void tst_WidgetHelpers::flickHoverEvent_paintsAgain()
     QVERIFY(neighbour.takeMouse({50, 50}));
     const EventList events(&window);
     QCoreApplication::processEvents();
-    const int before = events.paintings;
+    int before = events.paintings;
+    flickHoverEvent(&window); // with the mouse elsewhere
+    QTRY_COMPARE(events.paintings, before + 1);
+
+    QVERIFY(window.takeMouse({50, 50}));
+    QCoreApplication::processEvents();
+    before = events.paintings;
     flickHoverEvent(&window);
     QTRY_COMPARE(events.paintings, before + 1);
 }

@@ -3,10 +3,12 @@
 # SPDX-License-Identifier: MIT
 """Makes the eight images of the shadow around a preview: black, with a transparency that grows outwards."""
 
-import struct
 import sys
-import zlib
 from pathlib import Path
+
+sys.dont_write_bytecode = True  # the source tree stays clean
+
+from shared import png
 
 SIDE = [96, 52, 18]  # opacity from the edge outwards, 3 pixels at either side
 BELOW = [112, 84, 56, 32, 12]  # 5 pixels below
@@ -18,14 +20,10 @@ def corner(column, row):
     return [[round(x * y / 128) for x in column] for y in row]
 
 
-def png(rows):
+def black(rows):
     """The bytes of an image of black pixels with these opacities."""
-    def chunk(kind, data):
-        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-
-    head = struct.pack(">IIBBBBB", len(rows[0]), len(rows), 8, 4, 0, 0, 0)  # gray and alpha, 8 bits each
-    pixels = b"".join(b"\0" + b"".join(bytes((0, opacity)) for opacity in row) for row in rows)
-    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(pixels, 9)) + chunk(b"IEND", b"")
+    lines = b"".join(b"\0" + b"".join(bytes((0, opacity)) for opacity in row) for row in rows)
+    return png.encoded(len(rows[0]), len(rows), png.GRAY_ALPHA, lines)
 
 
 def main(folder):
@@ -39,7 +37,7 @@ def main(folder):
         "left-bottom": corner(left, BELOW), "right-bottom": corner(right, BELOW),
     }
     for name, rows in images.items():
-        (folder / f"preview-shadow-{name}.png").write_bytes(png(rows))
+        (folder / f"preview-shadow-{name}.png").write_bytes(black(rows))
 
 
 if __name__ == "__main__":

@@ -2,8 +2,10 @@
 # SPDX-License-Identifier: MIT
 # Copyright (c) 2026 the UtilsDllzglv6 authors
 #
-# Makes the generated files of resources/ again from their sources: the .qm catalogues, the icons, the calibration
-# catalogue and its modules. An ordinary build does not need it: its results are committed.
+# Makes the generated files again from their sources. An ordinary build does not need it: its results are committed.
+# In resources/: the .qm catalogues, the icon of the application, all other icons and pictures with the logo, the
+# slogans and the shadows of the preview, the calibration catalogue and its modules.
+# In tests/look/catalogues/: the .qm catalogues.
 #
 # Needs, by the names of Debian 12: qt6-l10n-tools (lrelease, lconvert), qt6-translations-l10n,
 # librsvg2-bin (rsvg-convert), python3.

@@ -13,7 +13,7 @@ namespace ZYX_zglv6 {
 
 namespace {
 
-/*! As many as a row has, whatever its format; what pads it may be missing behind the last one. */
+/*! As many as a row has of whole ones, whatever its format. Not its padding, which the last row may not have. */
 qsizetype pixelsInRow(const QImage &image)
 {
     constexpr int bitsOfPixel = 8 * int(ImageDifference::pixelSize);

@@ -11,8 +11,8 @@
 //
 // With m = 52 - e, n / 255 / u = n * 2^m / 255. Of 2^m, 255 leaves 2^(m mod 8), which gives
 //     round(n * 2^m / 255) = n * ((2^m - 2^(m mod 8)) / 255) + round(n * 2^(m mod 8) / 255),
-// two whole numbers; a block of pixels adds up n and the second term by lanes. A block that leads beyond 2^(e+1) goes
-// pixel by pixel instead, and so do differing pixels while the sum is small.
+// two whole numbers; a block of pixels adds up n and the second term by lanes. A block that leads to 2^(e+1) or beyond
+// goes pixel by pixel instead, and so do differing pixels while the sum is small.
 #include "utilsDll/look/ImageDifference_p.h"
 
 #include <immintrin.h>
@@ -42,7 +42,7 @@ __m256i sumsOfChannels(const unsigned char *first, const unsigned char *second)
 
 std::uint64_t sumOfLanes(__m256i lanes)
 {
-    alignas(32) std::uint32_t values[vectorSize]; // NOLINT(modernize-avoid-c-arrays): no header for more, see below
+    alignas(32) std::uint32_t values[vectorSize]; // NOLINT(modernize-avoid-c-arrays): no other header, as _p.h says
     _mm256_store_si256(reinterpret_cast<__m256i *>(values), lanes);
     std::uint64_t sum = 0;
     for (const std::uint32_t value : values) {

@@ -99,11 +99,13 @@ void centerDialogOnDesktop(QDialog *dialog)
 
 void ensureWidgetVisible(QAbstractScrollArea *area, const QWidget *child, int xMargin, int yMargin)
 {
-    // a scroll bar is in the area, too, but not in what it scrolls
-    if (!area || !child || !area->viewport()->isAncestorOf(child)) {
+    if (!area || !child) {
         return;
     }
     const QWidget *viewport = area->viewport();
+    if (child != viewport && !viewport->isAncestorOf(child)) {
+        return; // a scroll bar is in the area, too, but not in what it scrolls
+    }
     const QRect view = viewport->rect();
     const QRect target
         = QRect(child->mapTo(viewport, child->rect().topLeft()), child->mapTo(viewport, child->rect().bottomRight()))

@@ -2,14 +2,16 @@
 # SPDX-License-Identifier: MIT
 """Parts of standard controls, drawn pixel by pixel at the size at which the style sheets show them."""
 
-from drawing import ACCENT, DARK, LOOKS, PUSH, Look, circle, document, group, icon, path, rect, shape, stroked
+from drawing import LOOKS, PUSH, Look, icon, stroked
+from shared.colours import DARK, GROUND, ICON_ACCENT
+from shared.svg import circle, document, group, path, rect, shape
 
 BOX = 15  # side of check boxes and radio buttons
 BAR = 12  # breadth of scroll bars
 FIELDS = {  # ground and outline of a box
     "default": (DARK, "#6e6e6e"),
     "hover": (DARK, "#b4b4b4"),
-    "disabled": ("#232323", "#404040"),
+    "disabled": (GROUND, "#404040"),
 }
 TURNS = {"up": 0, "right": 90, "down": 180, "left": 270}
 
@@ -23,13 +25,13 @@ def boxes():
             circle(BOX / 2, BOX / 2, BOX / 2 - 0.5, fill=ground, stroke=outline), BOX)
     files["icons/radiobutton-checked.svg"] = document(
         circle(BOX / 2, BOX / 2, BOX / 2 - 0.5, fill=DARK, stroke="#8c8c8c")
-        + circle(BOX / 2, BOX / 2, 3.5, fill=ACCENT), BOX)
+        + circle(BOX / 2, BOX / 2, 3.5, fill=ICON_ACCENT), BOX)
     return files
 
 
 def check_marks():
     mark = path("M3.5 7.75l3 3l5-6.5")
-    return {"icons/checkmark.svg": document(stroked(mark, Look(ACCENT, 2)), BOX),
+    return {"icons/checkmark.svg": document(stroked(mark, Look(ICON_ACCENT, 2)), BOX),
             "icons/checkmark-disabled.svg": document(stroked(mark, Look("#606060", 1.75)), BOX)}
 
 

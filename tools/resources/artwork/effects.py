@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 """The panels of effects: frame, light leak and toning."""
 
-from drawing import INK, LOOKS, TOGGLE, families, group, icon, path, rect, shape, solid
+from drawing import INK, LOOKS, TOGGLE, families, icon, solid
+from shared.svg import group, path, rect, shape
 
 PICTURE = rect(3, 3, 18, 18, 2)
 

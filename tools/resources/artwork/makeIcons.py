@@ -7,6 +7,7 @@ import sys
 from pathlib import Path
 
 sys.dont_write_bytecode = True  # the source tree stays clean
+sys.path.insert(1, str(Path(__file__).resolve().parents[1]))  # where "shared" is
 
 import controls
 import effects

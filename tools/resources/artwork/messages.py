@@ -4,8 +4,9 @@
 
 from math import cos, pi, sin
 
-from drawing import (ACCENT, LOOKS, PUSH, Look, circle, document, family, group, icon, number, path, rect, shape,
-                     stroked)
+from drawing import LOOKS, PUSH, Look, family, icon, stroked
+from shared.colours import ICON_ACCENT
+from shared.svg import circle, document, group, number, path, rect, shape
 
 RED, BLUE, AMBER, WHITE = "#c8402f", "#3f7fc0", "#e5a332", "#ffffff"
 HUES = ("#e0524a", "#e39a3b", "#d8cf4a", "#58b45c", "#4a86d8", "#9a5ccf")
@@ -24,13 +25,13 @@ def information():
 def warning(size):
     triangle = path("M24 8L42 39H6z", fill=AMBER, stroke=AMBER, stroke_width=6, stroke_linejoin="round")
     mark = stroked(path("M24 17v11"), Look("#2a1d05", 4)) + circle(24, 35, 2.5, fill="#2a1d05")
-    return document(triangle + mark, size, grid=(48, 48))
+    return document(triangle + mark, size, area=(48, 48))
 
 
 def calibration_modules():
     """Camera and lens."""
-    lens = shape("aperture").replace('d="M3 12', f'stroke="{ACCENT}" d="M3 12')
-    camera = shape("camera") + circle(12, 13, 3, fill=ACCENT, stroke=ACCENT)
+    lens = shape("aperture").replace('d="M3 12', f'stroke="{ICON_ACCENT}" d="M3 12')
+    camera = shape("camera") + circle(12, 13, 3, fill=ICON_ACCENT, stroke=ICON_ACCENT)
     return {"icons/caf/icon-CAF-1.svg": icon(camera, LOOKS["default"]),
             "icons/caf/icon-CAF-2.svg": icon(lens, LOOKS["default"])}
 

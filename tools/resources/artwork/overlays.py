@@ -2,9 +2,11 @@
 # SPDX-License-Identifier: MIT
 """Handles that lie on a photo. A dark rim under each stroke keeps them visible on light places too."""
 
-from drawing import ACCENT, DARK, GRID, INK, Look, circle, document, group, path, rect, solid, stroked
+from drawing import GRID, INK, Look, solid, stroked
+from shared.colours import DARK, ICON_ACCENT, ICON_STATES
+from shared.svg import circle, document, group, path, rect
 
-COLOURS = {"": "#f2f2f2", "-hover": "#ff9a66", "-active": ACCENT, "-disabled": "#8c8c8c"}
+COLOURS = {"": "#f2f2f2", "-hover": ICON_STATES["selected-hover"], "-active": ICON_ACCENT, "-disabled": "#8c8c8c"}
 
 
 def rimmed(drawing, colour, size):

@@ -2,12 +2,13 @@
 # SPDX-License-Identifier: MIT
 """The side bars with their filters, snapshots, favorites and panels, and the arrows of dialogs."""
 
-from drawing import (ACCENT, INK, LOOKS, PUSH, PUSH_OR_NOT, TOGGLE, Look, circle, document, families, family, icon,
-                     path, rect, scaled, shape, solid, stroked)
+from drawing import INK, LOOKS, PUSH, PUSH_OR_NOT, TOGGLE, Look, families, family, icon, scaled, solid, stroked
+from shared.colours import ICON_ACCENT
+from shared.svg import circle, document, path, rect, shape
 
 STAR = {  # file name: drawing and colour
     "favorite": (shape("star-filled", **solid()), "#d0d0d0"),
-    "favorite-orange": (shape("star-filled", **solid()), ACCENT),
+    "favorite-orange": (shape("star-filled", **solid()), ICON_ACCENT),
     "favorite-notselected": (shape("star"), "#6e6e6e"),
     "favorite-filter": (scaled(shape("star-filled", **solid()), 0.75) + path("M14 17h8M16 22h4"), "#d0d0d0"),
 }

@@ -4,7 +4,8 @@
 
 from dataclasses import replace
 
-from drawing import LOOKS, TOGGLE, circle, document, group, icon, number, path, rect, shape
+from drawing import LOOKS, TOGGLE, icon
+from shared.svg import circle, document, group, number, path, rect, shape
 
 CHANNELS = {name: dict(zip(TOGGLE, colours)) for name, colours in {
     "R": ("#b25a55", "#e38780", "#ff6258", "#ff988f"),

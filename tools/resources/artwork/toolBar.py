@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 """The main tool bar, the bottom bar and the buttons below the preview."""
 
-from drawing import INK, PUSH, PUSH_OR_NOT, TOGGLE_OR_NOT, circle, families, family, path, rect, shape, solid
+from drawing import INK, PUSH, PUSH_OR_NOT, TOGGLE_OR_NOT, families, family, solid
+from shared.svg import circle, path, rect, shape
 
 PICTURE = rect(3, 4, 18, 16, 2)
 

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """The decoration at the left of the about box: a piece of film that fades into the black ground."""
 
-import svg
 from image import from_svg
+from shared import svg
 
 WIDTH, HEIGHT = 160, 320
 FILM_LEFT, FILM_WIDTH = 16, 120
@@ -32,9 +32,9 @@ def strip():
     fade = svg.gradient("fade", (0, "#000000", 0), (0.45, "#000000", 0.1), (1, "#000000", 1), across=True)
     ends = svg.gradient("ends", (0, "#000000", 0.85), (0.3, "#000000", 0), (0.7, "#000000", 0), (1, "#000000", 0.85))
     covers = "".join(svg.rect(0, 0, WIDTH, HEIGHT, fill=f"url(#{name})") for name in ("fade", "ends"))
-    return svg.document(WIDTH, HEIGHT, svg.rect(0, 0, WIDTH, HEIGHT, fill="#000000"),
-                        svg.rect(FILM_LEFT, 0, FILM_WIDTH, HEIGHT, fill="#281c16"), perforation(), frames, covers,
-                        head=svg.element("defs", skies + fade + ends))
+    ground = svg.rect(0, 0, WIDTH, HEIGHT, fill="#000000")
+    film = svg.rect(FILM_LEFT, 0, FILM_WIDTH, HEIGHT, fill="#281c16") + perforation()
+    return svg.document(skies + fade + ends + ground + film + frames + covers, WIDTH, HEIGHT)
 
 
 def pictures():

@@ -5,8 +5,8 @@
 Their hot spot is the middle (16, 16); that of the lenses is (14, 14), that of the pointing hand its finger tip (12, 4).
 """
 
-import svg
 from image import from_svg
+from shared import svg
 
 # Arrows around the middle at (16, 16).
 ARROW_TO_RIGHT = "M19 15h5v-4l6 5l-6 5v-4h-5z"
@@ -74,4 +74,4 @@ def drawings():
 
 def pictures():
     for name, drawing in drawings().items():
-        yield f"{name}.png", from_svg(svg.document(32, 32, drawing))
+        yield f"{name}.png", from_svg(svg.document(drawing, 32))

@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Frames of nine parts: a square image of twice the corner and one pixel more, and the eight pieces of such a frame."""
 
-import colours
 from image import CLEAR, Image
+from shared import colours
 
 PIECES = {"left-top": (0, 0), "top": (1, 0), "right-top": (2, 0), "left": (0, 1), "right": (2, 1),
           "left-bottom": (0, 2), "bottom": (1, 2), "right-bottom": (2, 2)}
@@ -75,7 +75,7 @@ def recent_files():
     for name, (column, row) in PIECES.items():
         yield f"recentFiles/border-{name}.png", piece_of(frame, 4, column, row)
     yield "recentFiles/border-default-(corner-4px).png", rounded(4, colours.pixel("#565656"))
-    yield "recentFiles/border-hover-(corner-4px).png", rounded(4, colours.pixel("#e06a33"))
+    yield "recentFiles/border-hover-(corner-4px).png", rounded(4, colours.pixel(colours.ICON_ACCENT))
 
 
 def fields():

@@ -6,7 +6,8 @@ import struct
 import subprocess
 import zlib
 
-SIGNATURE = b"\x89PNG\r\n\x1a\n"
+from shared import png
+
 CLEAR = (0, 0, 0, 0)
 
 
@@ -28,9 +29,9 @@ class Image:
         is_opaque = all(pixel[3] == 255 for row in self.rows for pixel in row)
         size = 3 if is_opaque else 4
         lines = [bytes(value for pixel in row for value in (pixel if pixel[3] else CLEAR)[:size]) for row in self.rows]
-        head = struct.pack(">IIBBBBB", self.width, self.height, 8, 2 if is_opaque else 6, 0, 0, 0)
-        data = min((zlib.compress(filtered(lines, size, kinds), 9) for kinds in ((0,), (1,), (2,), range(5))), key=len)
-        return SIGNATURE + chunk(b"IHDR", head) + chunk(b"IDAT", data) + chunk(b"IEND", b"")
+        channels = png.RGB if is_opaque else png.RGBA
+        return min((png.encoded(self.width, self.height, channels, filtered(lines, size, kinds))
+                    for kinds in ((0,), (1,), (2,), range(5))), key=len)
 
 
 def from_svg(text):
@@ -41,7 +42,7 @@ def from_svg(text):
 
 def from_png(data):
     """The image in a file of the two forms that rsvg-convert writes: 8 bits a channel, with or without alpha."""
-    head, packed, place = b"", b"", len(SIGNATURE)
+    head, packed, place = b"", b"", len(png.SIGNATURE)
     while place < len(data):
         length, kind = struct.unpack_from(">I4s", data, place)
         body = data[place + 8:place + 8 + length]
@@ -49,7 +50,7 @@ def from_png(data):
         packed += body if kind == b"IDAT" else b""
         place += length + 12
     width, height, *form = struct.unpack(">IIBBBBB", head)
-    size = {(8, 2, 0, 0, 0): 3, (8, 6, 0, 0, 0): 4}[tuple(form)]
+    size = {(8, png.RGB, 0, 0, 0): 3, (8, png.RGBA, 0, 0, 0): 4}[tuple(form)]
 
     image, raw, length = Image(width, height), zlib.decompress(packed), width * size
     above = bytes(length)
@@ -58,10 +59,6 @@ def from_png(data):
         above = unfiltered(line, above, size, kind)
         image.rows[y] = [(*above[x:x + size], 255)[:4] for x in range(0, length, size)]
     return image
-
-
-def chunk(kind, data):
-    return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
 
 def paeth(left, up, corner):

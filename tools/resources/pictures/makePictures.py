@@ -9,6 +9,9 @@ Needs rsvg-convert. The same versions of it and of Python's zlib give the same b
 import sys
 from pathlib import Path
 
+sys.dont_write_bytecode = True  # the source tree stays clean
+sys.path.insert(1, str(Path(__file__).resolve().parents[1]))  # where "shared" is
+
 import aboutStrip
 import cursors
 import frames

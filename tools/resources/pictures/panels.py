@@ -4,9 +4,8 @@
 
 import math
 
-import colours
-import svg
 from image import Image, from_svg
+from shared import colours, svg
 
 HISTOGRAM = (230, 90)
 CHANNELS = {  # colour, and hills as (middle, width, height) in shares of the panel
@@ -54,8 +53,8 @@ def light(layers):
 def film_frame(sign):
     """A picture of 96 by 64 pixels on a piece of film, with a sign instead of an image."""
     holes = "".join(svg.rect(x, y, 5, 4, 1, fill=colours.GROUND) for y in (3, 57) for x in range(4, 96, 12))
-    return from_svg(svg.document(96, 64, svg.rect(0, 0, 96, 64, 3, fill="#121212"), holes,
-                                 svg.rect(4, 10, 88, 44, 2, fill="#2e2e2e"), sign))
+    film, picture = svg.rect(0, 0, 96, 64, 3, fill="#121212"), svg.rect(4, 10, 88, 44, 2, fill="#2e2e2e")
+    return from_svg(svg.document(film + holes + picture + sign, 96, 64))
 
 
 def no_image():
@@ -65,7 +64,7 @@ def no_image():
 
 def loading():
     """Three dots, the last still faint."""
-    dots = ((34, "#e06a33"), (48, "#a33f12"), (62, "#5c3120"))
+    dots = ((34, colours.ICON_ACCENT), (48, colours.ACCENT), (62, "#5c3120"))
     return "".join(svg.circle(x, 32, 4, fill=colour) for x, colour in dots)
 
 
@@ -77,10 +76,11 @@ def two_lines(upper, lower):
 
 def processing(step):
     """A strip of three pictures, of which the next is lit in each step."""
-    fills = ["#ff9a66" if i == step else "#8a3c17" if i == (step - 1) % 3 else "#2b2b2b" for i in range(3)]
+    lit = colours.ICON_STATES["selected-hover"]
+    fills = [lit if i == step else "#8a3c17" if i == (step - 1) % 3 else "#2b2b2b" for i in range(3)]
     frames = "".join(svg.rect(2 + 10 * i, 10, 8, 12, fill=fill) for i, fill in enumerate(fills))
     holes = "".join(svg.rect(x, y, 3, 2, fill="#1a1a1a") for y in (6, 24) for x in range(2, 32, 5))
-    return from_svg(svg.document(32, 32, svg.rect(0, 4, 32, 24, 2, fill="#767676"), holes, frames))
+    return from_svg(svg.document(svg.rect(0, 4, 32, 24, 2, fill="#767676") + holes + frames, 32))
 
 
 def no_recent_file():
@@ -88,7 +88,7 @@ def no_recent_file():
     picture = svg.group(svg.shape("photo"), transform="translate(1 2) scale(2.3333)", stroke_width=1.3, **lines)
     clock = (svg.circle(47, 46, 15, fill=colours.GROUND) + svg.circle(47, 46, 11, stroke_width=3, **lines)
              + svg.path("M47 40v6l4 3", stroke_width=3, **lines))
-    return from_svg(svg.document(64, 64, picture, clock))
+    return from_svg(svg.document(picture + clock, 64))
 
 
 def pictures():

@@ -2,10 +2,9 @@
 # SPDX-License-Identifier: MIT
 """The tool bar of the print preview: icons of 24 by 24 pixels in states, and the shadow of a page."""
 
-import colours
 import frames
-import svg
 from image import from_svg
+from shared import colours, svg
 
 MIRRORED = "matrix(-1 0 0 1 24 0)"
 LANDSCAPE_PAGE = ("M14 5v5a1 1 0 0 0 1 1h6", "M19 20h-14a2 2 0 0 1 -2 -2v-11a2 2 0 0 1 2 -2h9l7 6v7a2 2 0 0 1 -2 2")
@@ -50,7 +49,7 @@ def icon(drawing, state):
     content = svg.group(drawing.replace("currentColor", colours.ICON_STATES[state]), fill="none",
                         stroke=colours.ICON_STATES[state], stroke_width=2, stroke_linecap="round",
                         stroke_linejoin="round", transform=moved)
-    return from_svg(svg.document(24, 24, content))
+    return from_svg(svg.document(content, 24))
 
 
 def pictures():

@@ -2,11 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Grooves, knobs and marks of the sliders, switches and progress bars."""
 
-import colours
-import svg
 from image import from_svg
+from shared import colours, svg
 
-KNOB, GROOVE = (14, 14), (120, 6)
+KNOB, GROOVE = 14, (120, 6)
 OWN_COLOURS = {  # each with the colour at the other end of its groove
     "red": ("#d23c34", "#2f9fae"), "green": ("#45a04c", "#b5419a"), "blue": ("#4a6fd6", "#b59a35"),
     "cyan": ("#2f9fae", "#d23c34"), "magenta": ("#b5419a", "#45a04c"),
@@ -26,35 +25,36 @@ def knob(colour, state):
     body = colours.mix("#454545", colour, 0.14) if change is None else shade(colour, change)
     is_flat = state in ("disabled", "onpressed")
     top, bottom = (body, body) if is_flat else (shade(body, 0.3), shade(body, -0.18))
-    content = [svg.circle(7, 7, 7, fill="#000000", fill_opacity=0.35), svg.circle(7, 7, 6, fill=rim),
-               svg.circle(7, 7, 5, fill="url(#body)")]
+    content = (svg.gradient("body", (0, top), (1, bottom)) + svg.circle(7, 7, 7, fill="#000000", fill_opacity=0.35)
+               + svg.circle(7, 7, 6, fill=rim) + svg.circle(7, 7, 5, fill="url(#body)"))
     if middle:
-        content.append(svg.circle(7, 7, 2, fill=middle))
-    return from_svg(svg.document(*KNOB, *content, head=svg.gradient("body", (0, top), (1, bottom))))
+        content += svg.circle(7, 7, 2, fill=middle)
+    return from_svg(svg.document(content, KNOB))
 
 
 def groove(*stops):
     """A bar with round ends: a dark line around it, and inside a run of colours from left to right."""
     width, height = GROOVE
-    return from_svg(svg.document(
-        width, height, svg.rect(0, 0, width, height, 3, fill="#0c0c0c"),
-        svg.rect(1, 1, width - 2, height - 2, 2, fill="url(#run)"), head=svg.gradient("run", *stops, across=True)))
+    border = svg.rect(0, 0, width, height, 3, fill="#0c0c0c")
+    inside = svg.rect(1, 1, width - 2, height - 2, 2, fill="url(#run)")
+    return from_svg(svg.document(svg.gradient("run", *stops, across=True) + border + inside, width, height))
 
 
 def bar(height, border, top, bottom, light=None):
     """A bar with a border, darker or lighter downwards; light is a line under its upper border."""
-    content = [svg.rect(0, 0, 120, height, 3, fill=border), svg.rect(1, 1, 118, height - 2, 2, fill="url(#run)")]
+    content = (svg.gradient("run", (0, top), (1, bottom)) + svg.rect(0, 0, 120, height, 3, fill=border)
+               + svg.rect(1, 1, 118, height - 2, 2, fill="url(#run)"))
     if light:
-        content.append(svg.rect(2, 1, 116, 1, fill=light))
-    return from_svg(svg.document(120, height, *content, head=svg.gradient("run", (0, top), (1, bottom))))
+        content += svg.rect(2, 1, 116, 1, fill=light)
+    return from_svg(svg.document(content, 120, height))
 
 
 def bubble():
     """The speech bubble of a value, with its point at the middle of the lower edge."""
     outline = ("M5 0.5h34a4.5 4.5 0 0 1 4.5 4.5v13a4.5 4.5 0 0 1 -4.5 4.5h-12l-5 5l-5 -5h-12"
                "a4.5 4.5 0 0 1 -4.5 -4.5v-13a4.5 4.5 0 0 1 4.5 -4.5z")
-    return from_svg(svg.document(44, 28, svg.path(outline, fill="url(#body)", stroke="#7c7c7c"),
-                                 head=svg.gradient("body", (0, "#4e4e4e"), (1, "#363636"))))
+    body = svg.gradient("body", (0, "#4e4e4e"), (1, "#363636"))
+    return from_svg(svg.document(body + svg.path(outline, fill="url(#body)", stroke="#7c7c7c"), 44, 28))
 
 
 def switch(is_on, state):
@@ -63,9 +63,8 @@ def switch(is_on, state):
     knobs = {"default": "#ececec" if is_on else "#999999", "hover": "#ffffff" if is_on else "#dddddd",
              "disabled": "#6b5a52" if is_on else "#4a4a4a"}
     border = {"default": "#0f0f0f", "hover": "#0f0f0f", "disabled": "#343434"}[state]
-    return from_svg(svg.document(
-        28, 16, svg.rect(0, 0, 28, 16, 8, fill=border), svg.rect(1, 1, 26, 14, 7, fill=grounds[state]),
-        svg.circle(20 if is_on else 8, 8, 5, fill=knobs[state])))
+    ground = svg.rect(0, 0, 28, 16, 8, fill=border) + svg.rect(1, 1, 26, 14, 7, fill=grounds[state])
+    return from_svg(svg.document(ground + svg.circle(20 if is_on else 8, 8, 5, fill=knobs[state]), 28, 16))
 
 
 def colour_sliders():
@@ -84,7 +83,7 @@ def plain_slider():
     yield "slider/slidebar-disabled.png", bar(6, "#2f2f2f", "#262626", "#262626")
     yield "slider/bubble.png", bubble()
     yield "slider/center-mark.png", from_svg(svg.document(
-        3, 8, svg.rect(0, 0, 3, 8, fill="#0c0c0c"), svg.rect(1, 1, 1, 6, fill="#b0b0b0")))
+        svg.rect(0, 0, 3, 8, fill="#0c0c0c") + svg.rect(1, 1, 1, 6, fill="#b0b0b0"), 3, 8))
 
 
 def pictures():

@@ -6,9 +6,8 @@ import json
 import re
 from pathlib import Path
 
-import colours
-import svg
 from image import from_svg
+from shared import colours, svg
 
 OUTLINES = json.loads(Path(__file__).with_name("outlines.json").read_text(encoding="utf-8"))
 APP_ICON = Path(__file__).parents[3] / "resources" / "artwork" / "app_icon_small.svg"
@@ -19,12 +18,17 @@ NOTO = ("slogan_jp", "slogan_zh_CN")  # the others have letters of Roboto
 
 
 def letters(key, x, baseline, size, colour):
-    place = f"translate({svg.number(x)} {svg.number(baseline)}) scale({svg.number(size / 100)})"
+    place = f"translate({svg.number(round(x, 2))} {svg.number(baseline)}) scale({svg.number(size / 100)})"
     return svg.path(OUTLINES[key]["path"], fill=colour, transform=place)
 
 
 def width_of(key, size):
     return OUTLINES[key]["width"] * size / 100
+
+
+def lines(*parts, gradients=""):
+    """The content of a file that people read, too: each part on a line."""
+    return "\n" + (svg.element("defs", gradients) if gradients else "") + "".join(f"  {part}\n" for part in parts)
 
 
 def product_name(x, baseline, size):
@@ -50,26 +54,26 @@ def logo(scale=1.0):
     baseline is the same.
     """
     light, mark = aperture(30, 31.5, 29.5)
-    return svg.document(svg.number(160 * scale), svg.number(63 * scale), mark,
-                        letters("Zyx Labs", 67.5, 37, 15, SOFT_LETTERS), product_name(66.5, 61, 25),
-                        head=svg.element("defs", light), box="0 0 160 63")
+    content = lines(mark, letters("Zyx Labs", 67.5, 37, 15, SOFT_LETTERS), product_name(66.5, 61, 25), gradients=light)
+    return svg.document(content, 160 * scale, 63 * scale, area=(160, 63))
 
 
 def small_product_logo():
     size, baseline = 46, 41
     end = 1 + width_of("Grain", size) + width_of("lab", size)
-    return svg.document(220, 48, product_name(1, baseline, size), letters("6", end + 12, baseline, size, BRIGHT_ACCENT))
+    major = letters("6", end + 12, baseline, size, BRIGHT_ACCENT)
+    return svg.document(lines(product_name(1, baseline, size), major), 220, 48)
 
 
 def orange_bar():
     run = svg.gradient("run", (0, colours.ACCENT_TOP), (1, colours.ACCENT_BOTTOM))
-    return svg.document(6, 220, svg.rect(0, 0, 6, 220, fill="url(#run)"), head=svg.element("defs", run))
+    return svg.document(lines(svg.rect(0, 0, 6, 220, fill="url(#run)"), gradients=run), 6, 220)
 
 
 def slogan(key):
     size = 23
     width = round(OUTLINES[key]["ink"] * size / 100) + 2
-    return svg.document(width, 32, letters(key, 0, 23, size, LETTERS))
+    return svg.document(lines(letters(key, 0, 23, size, LETTERS)), width, 32)
 
 
 def note(name):

@@ -10,8 +10,10 @@ ACCENT = "#a33f12"
 ACCENT_LIGHT = "#ce7044"
 ACCENT_TOP, ACCENT_BOTTOM = "#a34012", "#8d370f"
 
+ICON_ACCENT = "#e06a33"  # lighter than the others: an icon has little area
 ICON_STATES = {
-    "default": "#aaaaaa", "hover": "#ececec", "selected": "#e06a33", "onpressed": "#d0521b", "disabled": "#505050",
+    "default": "#aaaaaa", "hover": "#ececec", "selected": ICON_ACCENT, "selected-hover": "#ff9a66",
+    "onpressed": "#d0521b", "disabled": "#505050", "active": ICON_ACCENT,
 }
 
 
