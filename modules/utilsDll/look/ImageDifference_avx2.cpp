@@ -99,7 +99,7 @@ double addBlock(double sum, const unsigned char *first, const unsigned char *sec
     }
     const int exponent = exponentOf(sum);
     const int m = 52 - exponent;
-    const double units = static_cast<double>(static_cast<std::int64_t>(unitsOf(m, first, second)));
+    const auto units = static_cast<double>(static_cast<std::int64_t>(unitsOf(m, first, second)));
     const double next = sum + units * powerOfTwo(-m);
     return next < powerOfTwo(exponent + 1) ? next : addPixels(sum, first, second, blockSize);
 }
