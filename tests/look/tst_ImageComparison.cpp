@@ -335,9 +335,9 @@ void tst_ImageComparison::anyThread_givesTheSame()
 /*! Rows that begin anywhere, and a last one without what pads the others. */
 void tst_ImageComparison::bufferOfTheCaller_isReadWithinItsPixels()
 {
-    const std::vector<uchar> narrow(7 * 3, 1);
+    const std::vector<uchar> narrow(21, 1); // 7 x 3
     const QImage unaligned(narrow.data(), 7, 3, 7, QImage::Format_Grayscale8);
-    const std::vector<uchar> padded(64 * 2 + 10, 1); // on the heap, where a sanitizer guards its end
+    const std::vector<uchar> padded(138, 1); // 64, 64 and 10: on the heap, where a sanitizer guards the end
     const QImage withoutEnd(padded.data(), 10, 3, 64, QImage::Format_Grayscale8);
     for (const QImage &image : {unaligned, withoutEnd}) {
         const QImage wide = filled(image.size(), 0xffffffff);
