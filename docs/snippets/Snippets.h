@@ -16,12 +16,16 @@
 #include <memory>
 #include <string>
 
+class CIconViewer;
+class CRetinaToolButton;
+class CVerticalLabel;
 class QAction;
 class QAtomicInt;
 class QComboBox;
 class QImage;
 class QObject;
 class QPainter;
+class QPixmap;
 class QPoint;
 class QPolygonF;
 class QPushButton;
@@ -152,5 +156,11 @@ bool isVisiblyChanged(const QImage &before, const QImage &after);
 // platform.cpp
 
 QString versionText(const QString &path);
+
+// uiControls.cpp
+
+CIconViewer *addViewer(QWidget &frame, const QPixmap &photograph);
+CRetinaToolButton *addBackButton(QWidget &frame);
+CVerticalLabel *addYear(QWidget &frame, const QString &year);
 
 } // namespace Snippets

@@ -3,6 +3,9 @@
 #include "Snippets.h"
 #include "support/Sandbox.h"
 
+#include "uiControls/IconViewer.h"
+#include "uiControls/RetinaToolButton.h"
+#include "uiControls/VerticalLabel.h"
 #include "utilsDll/look/LanguageManager.h"
 #include "utilsDll/look/customzyxappstyle.h"
 
@@ -11,6 +14,7 @@
 #include <QtGui/QIcon>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
+#include <QtGui/QPixmap>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -19,7 +23,7 @@
 
 using namespace ZYX_zglv6;
 
-/*! Runs the examples of the page on the look. */
+/*! Runs the examples of the pages on the look and on the small widgets. */
 class tst_LookSnippets : public QObject
 {
     Q_OBJECT
@@ -32,6 +36,9 @@ private Q_SLOTS:
     void keepStill_turnsTheShiftOff();
     void languageBox_storesTheChoice();
     void guideAddress_isInTheLoadedLanguage();
+    void addViewer_showsThePhotograph();
+    void addBackButton_isANamedButton();
+    void addYear_isHigherThanWide();
     void paintPreview_hasShadowAndGroove();
     void isVisiblyChanged_fromAHundredthOn();
 };
@@ -80,6 +87,31 @@ void tst_LookSnippets::guideAddress_isInTheLoadedLanguage()
 {
     CLanguageManager::getInstance().loadLanguageForApp();
     QCOMPARE(Snippets::guideAddress().path(), u"/en/redirect/gl6/user-guide.pdf"_qs);
+}
+
+void tst_LookSnippets::addViewer_showsThePhotograph()
+{
+    QWidget frame;
+    QPixmap photograph(20, 10);
+    photograph.fill(Qt::red);
+    CIconViewer *viewer = Snippets::addViewer(frame, photograph);
+    viewer->resize(60, 40);
+    QCOMPARE(viewer->grab().toImage().pixelColor(30, 16), QColor(Qt::red));
+}
+
+void tst_LookSnippets::addBackButton_isANamedButton()
+{
+    QWidget frame;
+    const CRetinaToolButton *back = Snippets::addBackButton(frame);
+    QVERIFY(!back->icon().isNull());
+    QCOMPARE(back->accessibleName(), u"Back"_qs);
+}
+
+void tst_LookSnippets::addYear_isHigherThanWide()
+{
+    QWidget frame;
+    const QSize size = Snippets::addYear(frame, u"1968"_qs)->sizeHint();
+    QVERIFY(size.height() > size.width());
 }
 
 void tst_LookSnippets::paintPreview_hasShadowAndGroove()
