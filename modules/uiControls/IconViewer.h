@@ -11,10 +11,10 @@
 #include <memory>
 
 /*!
-    Shows one image, a pixmap or an icon, in the middle of its area, no larger than it is unless told to expand. A
-   shadow around it is painted on the parent, over what the parent's first painting left there: the parent paints itself
-   once before the shadow and once after it. Several viewers with a shadow on one parent multiply that painting: give
-    each its own parent.
+    Shows one image, a pixmap or an icon, in the middle of its area, no larger than it is unless told to expand.
+    A shadow around it is painted on the parent, over what the parent's first painting left there: the parent
+    paints itself once before the shadow and once after it. Several viewers with a shadow on one parent multiply
+    that painting: give each its own parent.
 
     An icon from a vector file may tell no size of its own, and is then seen only with a mandatory size. The size of an
     image is that in its own pixels, whatever its device pixel ratio. The text is what assistive programs read of it,

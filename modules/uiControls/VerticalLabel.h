@@ -10,8 +10,8 @@
     A label whose text runs from bottom to top, turned by a quarter. Plain text of one line: alignment, frame and rich
     text do not apply.
 
-    Give its font a size in pixels, by a style sheet or QFont::setPixelSize(): with one in points the text begins a
-   pixel beyond the left edge, and little of it is seen. Main thread only.
+    Give its font a size in pixels, by a style sheet or QFont::setPixelSize(): with one in points the text begins
+    a pixel beyond the left edge, and little of it is seen. Main thread only.
 */
 class UTILSDLL_EXPORT CVerticalLabel : public QLabel
 {
