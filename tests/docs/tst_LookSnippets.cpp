@@ -92,11 +92,11 @@ void tst_LookSnippets::guideAddress_isInTheLoadedLanguage()
 void tst_LookSnippets::addViewer_showsThePhotograph()
 {
     QWidget frame;
-    QPixmap photograph(20, 10);
+    QPixmap photograph(200, 100);
     photograph.fill(Qt::red);
     CIconViewer *viewer = Snippets::addViewer(frame, photograph);
-    viewer->resize(60, 40);
-    QCOMPARE(viewer->grab().toImage().pixelColor(30, 16), QColor(Qt::red));
+    viewer->resize(240, 140);
+    QCOMPARE(viewer->grab().toImage().pixelColor(25, 25), QColor(Qt::red)); // the text lies in the middle
 }
 
 void tst_LookSnippets::addBackButton_isANamedButton()
