@@ -10,7 +10,7 @@ export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,ti
 build_packages=(
     cmake ninja-build ccache g++ pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-5compat-dev libgl-dev libopengl-dev liblog4cplus-dev libminizip-dev
-    zlib1g-dev libcpp-httplib-dev libqt6sql6-sqlite libqt6svg6 fonts-dejavu-core
+    zlib1g-dev libcpp-httplib-dev libqt6sql6-sqlite libqt6svg6 qt6-svg-dev fonts-dejavu-core
 )
 test_packages=(
     clang clang-format-14 libclang-rt-14-dev python3 python3-clang-14 binutils
