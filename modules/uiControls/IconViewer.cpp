@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "uiControls/IconViewer.h"
 
+#include "uiControls/AccessibleViewer_p.h"
 #include "utilsDll/frame/Assertions.h"
 #include "utilsDll/look/GuiUtils.h"
 
@@ -9,7 +10,6 @@
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
-#include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOption>
@@ -128,36 +128,6 @@ private:
 bool isGiven(const QSize &size)
 {
     return size.width() >= 0 && size.height() >= 0;
-}
-
-/*! Qt's own interface would tell neither that it is an image nor its text. */
-class AccessibleViewer final : public QAccessibleWidget
-{
-public:
-    explicit AccessibleViewer(CIconViewer &viewer)
-        : QAccessibleWidget(&viewer, QAccessible::Graphic)
-    {
-    }
-
-    QString text(QAccessible::Text kind) const override
-    {
-        const QString given = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && given.isEmpty() ? widget()->property("text").toString() : given;
-    }
-};
-
-QAccessibleInterface *makeAccessibleViewer(const QString &className, QObject *object)
-{
-    if (className != QLatin1StringView(CIconViewer::staticMetaObject.className())) {
-        return nullptr;
-    }
-    auto *viewer = qobject_cast<CIconViewer *>(object);
-    return viewer ? new AccessibleViewer(*viewer) : nullptr; // Qt's cache owns it
-}
-
-void makeViewersAccessible()
-{
-    QAccessible::installFactory(makeAccessibleViewer); // Qt drops doubles, and forgets all with its application
 }
 
 } // namespace

@@ -120,8 +120,6 @@ private Q_SLOTS:
     void icon_isPaintedByItsMode();
     void icon_ofVectors_needsAMandatorySize();
     void mandatoryNothing_paintsNothing();
-    void text_liesOverTheImage();
-    void text_withoutImage_isNotSeen();
 };
 
 void tst_IconViewerPainting::pixmap_isPaintedInItsRectangle_data()
@@ -309,50 +307,6 @@ void tst_IconViewerPainting::mandatoryNothing_paintsNothing()
     QVERIFY(viewer.outputRect().isEmpty());
     QVERIFY(inked(rendered(viewer)).isNull());
     QCOMPARE(viewer.sizeHint(), QSize(0, 0));
-}
-
-void tst_IconViewerPainting::text_liesOverTheImage()
-{
-    CIconViewer viewer;
-    viewer.resize(200, 100);
-    QPalette palette;
-    palette.setColor(QPalette::Text, Qt::yellow);
-    palette.setColor(QPalette::WindowText, Qt::green);
-    viewer.setPalette(palette);
-    viewer.setPixmap(filled({100, 80}, Qt::black));
-    viewer.setText(u"H"_qs);
-    QFont font = viewer.font();
-    font.setPixelSize(40);
-    font.setBold(true);
-    viewer.setFont(font);
-    for (const double ratio : {1.0, 2.0}) {
-        const QImage image = rendered(viewer, ratio);
-        QRect letter;
-        bool isYellow = false;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const QRgb pixel = image.pixel(x, y);
-                if (pixel != paper && pixel != qRgb(0, 0, 0)) {
-                    letter |= QRect(x, y, 1, 1);
-                }
-                isYellow = isYellow || pixel == qRgb(255, 255, 0);
-            }
-        }
-        QVERIFY(isYellow);
-        QVERIFY(letter.height() > 25 * ratio && letter.height() < 40 * ratio);
-        QVERIFY(qAbs(letter.center().x() - 100 * ratio) <= 3 * ratio);
-        QVERIFY(qAbs(letter.center().y() - 50 * ratio) <= 5 * ratio);
-    }
-}
-
-void tst_IconViewerPainting::text_withoutImage_isNotSeen()
-{
-    CIconViewer viewer;
-    viewer.resize(200, 100);
-    viewer.setText(u"Grain"_qs);
-    viewer.setMandatoryImageSize({100, 80}); // an output rectangle alone is not enough
-    QCOMPARE(viewer.outputRect(), QRect(50, 10, 100, 80));
-    QVERIFY(inked(rendered(viewer)).isNull());
 }
 
 QTEST_MAIN(tst_IconViewerPainting)

@@ -37,6 +37,30 @@ protected:
     }
 };
 
+/*! Counts the events of others that it gets to see. */
+class FilteringViewer : public CIconViewer
+{
+public:
+    using CIconViewer::CIconViewer;
+
+    int seen = 0;
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        ++seen;
+        return CIconViewer::eventFilter(object, event);
+    }
+
+    /*! How many times it sees one event of \a widget. */
+    int countOf(QWidget &widget)
+    {
+        seen = 0;
+        QEvent event(QEvent::User);
+        QCoreApplication::sendEvent(&widget, &event);
+        return seen;
+    }
+};
+
 /*! A viewer in the middle of a parent of 120 by 100. */
 void place(CIconViewer &viewer)
 {
@@ -81,6 +105,8 @@ private Q_SLOTS:
     void deletionInThePainting_isSurvived();
     void changeInThePainting_isFollowed();
     void eventFilter_neverSwallows();
+    void eventFilter_isOnTheParentOnlyWhileThereIsAShadow();
+    void eventFilter_leavesTheFormerParent();
 };
 
 void tst_IconViewerShadow::shadow_isPaintedOnTheParent()
@@ -346,6 +372,32 @@ void tst_IconViewerShadow::eventFilter_neverSwallows()
     QVERIFY(!viewer.eventFilter(&parent, &move));
     QVERIFY(!viewer.eventFilter(&stranger, &paint));
     QCOMPARE(parent.paintings + stranger.paintings, 0);
+}
+
+void tst_IconViewerShadow::eventFilter_isOnTheParentOnlyWhileThereIsAShadow()
+{
+    Parent parent;
+    FilteringViewer viewer(&parent);
+    QCOMPARE(viewer.countOf(parent), 1);
+    viewer.setShowShadow(false);
+    QCOMPARE(viewer.countOf(parent), 0);
+    viewer.setShowShadow(true);
+    QCOMPARE(viewer.countOf(parent), 1);
+}
+
+void tst_IconViewerShadow::eventFilter_leavesTheFormerParent()
+{
+    Parent first;
+    Parent second;
+    FilteringViewer viewer(&first);
+    first.show(); // Qt announces the change only for a widget that was seen
+    viewer.setParent(&second);
+    QCOMPARE(viewer.countOf(first), 0);
+    QCOMPARE(viewer.countOf(second), 1);
+    second.show();
+    viewer.show();
+    viewer.setParent(nullptr);
+    QCOMPARE(viewer.countOf(second), 0);
 }
 
 QTEST_MAIN(tst_IconViewerShadow)

@@ -20,6 +20,13 @@ public:
     using CRetinaToolButton::CRetinaToolButton;
 
     int updates = 0;
+    int changesSeen = 0; // of actions, by its filter
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        changesSeen += int(event->type() == QEvent::ActionChanged);
+        return CRetinaToolButton::eventFilter(object, event);
+    }
 
 protected:
     void updateIcon() override
@@ -50,6 +57,7 @@ private Q_SLOTS:
     void action_changed_updatesTheIcon();
     void action_disabled_showsTheNormalIcon();
     void action_setAfterTheFirstShow_isNotWatched();
+    void eventFilter_isOnTheActionFromTheFirstShowOn();
     void eventFilter_neverSwallows();
     void moveAndResize_renewTheLook();
     void click_thatDeletesTheButton_isSurvived();
@@ -178,6 +186,22 @@ void tst_RetinaToolButtonEvents::action_setAfterTheFirstShow_isNotWatched()
     QCOMPARE(button.updates, 1);
     action.setText(u"Film"_qs);
     QCOMPARE(button.updates, 1);
+}
+
+void tst_RetinaToolButtonEvents::eventFilter_isOnTheActionFromTheFirstShowOn()
+{
+    QAction action;
+    TestButton button(m_images.normal, m_images.hover, m_images.pressed, nullptr);
+    button.setDefaultAction(&action);
+    action.setText(u"Film"_qs);
+    QCOMPARE(button.changesSeen, 0);
+    button.show();
+    action.setText(u"Grain"_qs);
+    QCOMPARE(button.changesSeen, 1);
+    button.hide();
+    button.show();
+    action.setText(u"Light"_qs);
+    QCOMPARE(button.changesSeen, 2);
 }
 
 void tst_RetinaToolButtonEvents::eventFilter_neverSwallows()

@@ -130,7 +130,8 @@ private Q_SLOTS:
     void besideIcon_iconState();
     void besideIcon_pixels_data();
     void besideIcon_pixels();
-    void besideIcon_withDisabledAction_isTheOrdinaryButton();
+    void besideIcon_disabled_isTheOrdinaryButton_data();
+    void besideIcon_disabled_isTheOrdinaryButton();
 
 private:
     const ButtonImages m_images;
@@ -322,10 +323,15 @@ void tst_RetinaToolButtonPainting::besideIcon_pixels()
     QPalette palette;
     palette.setColor(QPalette::ButtonText, Qt::white);
     button.setPalette(palette);
+    QFont font = button.font();
+    font.setPixelSize(24);
+    font.setBold(true);
+    button.setFont(font);
     for (const double ratio : {1.0, 2.0}) {
         const QImage image = rendered(button, ratio);
         QRect green;
         QRect letters;
+        int countOfWhite = 0;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
                 const QRgb pixel = image.pixel(x, y);
@@ -333,22 +339,40 @@ void tst_RetinaToolButtonPainting::besideIcon_pixels()
                     green |= QRect(x, y, 1, 1);
                 } else if (pixel != paper) {
                     letters |= QRect(x, y, 1, 1);
+                    countOfWhite += int(pixel == qRgb(255, 255, 255));
                 }
             }
         }
         QCOMPARE(green, inPixels(icon, ratio));
-        QVERIFY(letters.isValid());
+        QVERIFY(countOfWhite > 20); // the palette's colour, pure within the strokes
         QVERIFY(letters.right() < textEnd * ratio && letters.right() > (textEnd - 5) * ratio); // at its right edge
     }
 }
 
-void tst_RetinaToolButtonPainting::besideIcon_withDisabledAction_isTheOrdinaryButton()
+void tst_RetinaToolButtonPainting::besideIcon_disabled_isTheOrdinaryButton_data()
 {
+    disabled_isPaintedWithTheNormalIcon_data();
+}
+
+void tst_RetinaToolButtonPainting::besideIcon_disabled_isTheOrdinaryButton()
+{
+    QFETCH(const bool, isActionDisabled);
+    QAction action;
     BesideButton button(m_images);
     button.setStyle(&button.style);
-    button.forceDisable(true);
+    if (isActionDisabled) {
+        action.setEnabled(false);
+        button.setDefaultAction(&action);
+    } else {
+        button.markAsPressed();
+        button.forceDisable(true);
+    }
     rendered(button);
     QCOMPARE(button.style.controlIcons.size(), 1);
+    const QImage icon = button.style.controlIcons[0].pixmap(QSize(30, 30)).toImage();
+    QVERIFY(!icon.isNull());
+    QCOMPARE(icon.pixel(15, 15), normalColour);
+    QVERIFY(!button.style.iconRects.contains(QRect(0, 0, 30, 52))); // of the other way
 }
 
 QTEST_MAIN(tst_RetinaToolButtonPainting)
