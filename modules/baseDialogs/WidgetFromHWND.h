@@ -6,7 +6,8 @@
 
 #include <QtWidgets/QWidget>
 
-using HWND = struct HWND__ *; // as the Windows headers have it; on X11 a window's number in its place
+// As the Windows headers have it; on X11 a window's number stands in its place.
+using HWND = struct HWND__ *; // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
 /*!
     A widget that is a child of \a parent, a window of another program or of one without Qt. It does not follow

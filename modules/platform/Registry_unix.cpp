@@ -12,4 +12,12 @@ std::unique_ptr<QSettings> openIdentityStore()
     return store;
 }
 
+std::unique_ptr<QSettings> openMachineStore(const QString &organization, const QString &application)
+{
+    auto store
+        = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::SystemScope, organization, application);
+    store->setFallbacksEnabled(false); // one key, as where there is a registry
+    return store;
+}
+
 } // namespace ZyxPlatform

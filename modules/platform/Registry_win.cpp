@@ -10,4 +10,11 @@ std::unique_ptr<QSettings> openIdentityStore()
                                        QSettings::NativeFormat);
 }
 
+std::unique_ptr<QSettings> openMachineStore(const QString &organization, const QString &application)
+{
+    return std::make_unique<QSettings>(
+        QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\%1\\%2\\").arg(organization, application),
+        QSettings::NativeFormat);
+}
+
 } // namespace ZyxPlatform

@@ -98,8 +98,8 @@ class tst_ActionManagerProxy : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObjects_haveTheToldMethods();
-    void slots_areInTheToldOrder();
+    void metaObjects_haveTheirMethods();
+    void slots_areInTheirOrder();
     void abstractProxy_isAChildOfTheControl();
     void abstractProxy_ofNull_reports();
     void actionProxy_isAChildOfTheAction();
@@ -140,7 +140,7 @@ private:
     TestSupport::Sandbox m_sandbox;
 };
 
-void tst_ActionManagerProxy::metaObjects_haveTheToldMethods()
+void tst_ActionManagerProxy::metaObjects_haveTheirMethods()
 {
     const QMetaObject &base = CBoolActionAbstractProxy::staticMetaObject;
     QCOMPARE(base.superClass(), &QObject::staticMetaObject);
@@ -156,7 +156,7 @@ void tst_ActionManagerProxy::metaObjects_haveTheToldMethods()
     QCOMPARE(CConnectionHelper::staticMetaObject.className(), "ZYX_zglv6::CConnectionHelper");
 }
 
-void tst_ActionManagerProxy::slots_areInTheToldOrder()
+void tst_ActionManagerProxy::slots_areInTheirOrder()
 {
     const auto setting = virtualSlot(&CBoolActionAbstractProxy::setChecked);
     const auto last = PlainProxy::lastSlotOfQObject();

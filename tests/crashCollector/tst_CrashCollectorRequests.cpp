@@ -219,7 +219,7 @@ void tst_CrashCollectorRequests::action_isTheOneOfTheOperation_data()
     QTest::addColumn<QByteArray>("action");
     QTest::addColumn<bool>("isRight");
 
-    QTest::newRow("as told") << reportAction() << true;
+    QTest::newRow("by the book") << reportAction() << true;
     QTest::newRow("quoted") << QByteArray('"' + reportAction() + '"') << true;
     QTest::newRow("one quote") << QByteArray('"' + reportAction()) << false;
     QTest::newRow("none") << QByteArray() << false;

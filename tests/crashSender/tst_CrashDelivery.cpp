@@ -31,7 +31,7 @@ class tst_CrashDelivery : public QObject
 
 private Q_SLOTS:
     void init();
-    void request_isTheToldOperation();
+    void request_isTheReportOperation();
     void data_isTheArchive();
     void answer_decides_data();
     void answer_decides();
@@ -61,7 +61,7 @@ Run tst_CrashDelivery::send(int port, const QStringList &arguments) const
     return m_folder->crashSender(QStringList{u"--send"_qs, u"--service"_qs, u"127.0.0.1:%1"_qs.arg(port)} + arguments);
 }
 
-void tst_CrashDelivery::request_isTheToldOperation()
+void tst_CrashDelivery::request_isTheReportOperation()
 {
     SoapServer server(answerWith("200 OK", verdictAnswer("NoError", "R-17")));
     // Neither name nor address of the product's makers: the operation has fixed values.
