@@ -88,6 +88,24 @@ public:
 
     /*! \a subfolder of the data directory, without a closing separator. Throws while the data directory is unset. */
     static QString dataLocation(const QString &subfolder, DataLocationGetFolderOptions options);
+
+    // Data files beside the executable. A file that can't be read is no failure of the call: the path is returned all
+    // the same, after the log was told and the user warned by a message box, which blocks and needs a QApplication and
+    // the main thread. Each call checks anew.
+
+    /*! Grain, and the features that are switched on. Warns only if \a check and the file's attributes deny reading. */
+    static const QString &dopGPAPath(bool check);
+    static const QString &featureTogglePath(bool check);
+
+    /*! The same for the packs in "Resources". */
+    static QString framePackPath(bool check);
+    static QString texturesPackPath(bool check);
+
+    /*! Always checked, and by opening it: the only one to see that another program has locked it. */
+    static QString defectsPackPath();
+
+private:
+    static void warnUser(const QString &message);
 };
 
 } // namespace ZYX_zglv6

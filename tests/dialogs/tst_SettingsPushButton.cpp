@@ -164,8 +164,8 @@ private Q_SLOTS:
     void clicked_hasFalseAsDefault();
     void withoutButton_allIsFalseAndNothing();
     void serializePropIsVisible_isTheKey();
-    void serializeExclusive_writesTheToldBytes_data();
-    void serializeExclusive_writesTheToldBytes();
+    void serializeExclusive_writesTheseBytes_data();
+    void serializeExclusive_writesTheseBytes();
     void serializeExclusive_ofShownRow_tellsWhetherItIsVisible_data();
     void serializeExclusive_ofShownRow_tellsWhetherItIsVisible();
     void serializeExclusive_inHiddenParent_tellsNotVisible();
@@ -597,7 +597,7 @@ void tst_SettingsPushButton::serializePropIsVisible_isTheKey()
     QCOMPARE(CSettingsPushButton::serializePropIsVisible(), visibleKey);
 }
 
-void tst_SettingsPushButton::serializeExclusive_writesTheToldBytes_data()
+void tst_SettingsPushButton::serializeExclusive_writesTheseBytes_data()
 {
     QTest::addColumn<bool>("isCheckable");
     QTest::addColumn<bool>("isChecked");
@@ -612,7 +612,7 @@ void tst_SettingsPushButton::serializeExclusive_writesTheToldBytes_data()
     QTest::newRow("checked, short") << true << true << false << shortState(true);
 }
 
-void tst_SettingsPushButton::serializeExclusive_writesTheToldBytes()
+void tst_SettingsPushButton::serializeExclusive_writesTheseBytes()
 {
     QFETCH(const bool, isCheckable);
     QFETCH(const bool, isChecked);

@@ -38,8 +38,9 @@ FOR_EXPORT = "utilsDll/frame/Export.h"
 SINGLE_HEADERS = {("utilsDll/actions", "utilsDll/dialogs/SettingsPushButton.h"),
                   ("hostExchange", "utilsDll/frame/PluginKeys.h")}
 
-# The one source in which two rooms meet against the order. An entry that is no longer needed fails as well.
-MEETINGS = {("utilsDll/settings/PreferencesFile.cpp", "storageLocation/storageLocation.h")}
+# The sources in which two rooms meet against the order. An entry that is no longer needed fails as well.
+MEETINGS = {("utilsDll/settings/PreferencesFile.cpp", "storageLocation/storageLocation.h"),
+            ("storageLocation/CheckedDataFiles.cpp", "utilsDll/dialogs/MessageBox.h")}
 
 # Libraries from outside: for all rooms, and for those with others.
 LIBRARIES = {"standard library", "Qt"}
@@ -167,6 +168,8 @@ GOOD = {
     "utilsDll/settings/PreferencesFile.cpp": '#include "storageLocation/storageLocation.h"\n',
     "storageLocation/storageLocation.h": "#include <QtCore/QDir>\n",
     "storageLocation/storageLocation.cpp": '#include "utilsDll/settings/Settings.h"\n#include "platform/Box.h"\n',
+    "storageLocation/CheckedDataFiles.cpp": '#include "utilsDll/dialogs/MessageBox.h"\n',
+    "utilsDll/dialogs/MessageBox.h": '#include "utilsDll/frame/Export.h"\n',
     "loggerSupport/Wrapper.cpp": '#include "storageLocation/storageLocation.h"\n#include <log4cplus/logger.h>\n',
     "utilsDll/soap/Soap.h": '#include "utilsDll/frame/Export.h"\n#include <QtXml/QDomNode>\n',
     "utilsDll/dialogs/SettingsPushButton.h": '#include "utilsDll/actions/Manager.h"\n',
@@ -179,6 +182,7 @@ GOOD = {
 BAD = [
     ("utilsDll/settings/Settings.h", '#include "storageLocation/storageLocation.h"', 2),  # also private
     ("utilsDll/settings/Other.cpp", '#include "storageLocation/storageLocation.h"', 1),
+    ("storageLocation/storageLocation.cpp", '#include "utilsDll/dialogs/MessageBox.h"', 1),
     ("platform/Box.h", '#include "utilsDll/frame/Export.h"', 1),
     ("utilsDll/frame/Thing.cpp", '#include "utilsDll/settings/Settings.h"', 1),
     ("utilsDll/frame/Thing.cpp", '  #  include "utilsDll/settings/Settings.h" // why', 1),
