@@ -11,3 +11,10 @@
     Before the first use of QSettings and QStandardPaths.
 */
 void useOwnStore(const QString &workFolder);
+
+/*!
+    Leaves what an installer would, for the about box: that the folder "Licenses" lies beside this program. Behind
+    useOwnStore(). On Windows that would be a key for all users of the machine: nothing is written there, and the page
+    of licences stays empty.
+*/
+void noteInstallation();

@@ -17,3 +17,7 @@ void useOwnStore(const QString & /*workFolder*/)
     }
     RegCloseKey(key);
 }
+
+void noteInstallation()
+{
+}

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "HelpMenu.h"
 
+#include "aboutDlg/AboutDlg.h"
+#include "storageLocation/storageLocation.h"
 #include "utilsDll/look/LanguageManager.h"
 
 #include <QtGui/QAction>
@@ -20,6 +22,25 @@ CHelpMenu::CHelpMenu(QWidget *parent)
     addLink(tr("Sho&p"), CRedirectionLinks::linkShop);
     addLink(tr("&Improvement program"), CRedirectionLinks::linkImprovementProgram);
     addLink(tr("P&atents"), CRedirectionLinks::linkPatents);
+    addSeparator();
+    connect(addAction(tr("&Check the data files")), &QAction::triggered, this, &CHelpMenu::checkDataFiles);
+    connect(addAction(tr("A&bout Zyx Grainlab")), &QAction::triggered, this, &CHelpMenu::showAboutBox);
+}
+
+void CHelpMenu::showAboutBox()
+{
+    auto *about = new CAboutDlg(window(), Qt::WindowFlags());
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->myExec();
+}
+
+void CHelpMenu::checkDataFiles()
+{
+    CStorageLocation::dopGPAPath(true);
+    CStorageLocation::featureTogglePath(true);
+    CStorageLocation::framePackPath(true);
+    CStorageLocation::texturesPackPath(true);
+    CStorageLocation::defectsPackPath();
 }
 
 /*! Not through the gate: to look at an address is possible at any time. */

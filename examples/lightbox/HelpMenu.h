@@ -7,7 +7,10 @@
 #include <QtCore/QUrl>
 #include <QtWidgets/QMenu>
 
-/*! The pages of the product's web site. This host only shows where they lie: nothing is fetched. */
+/*!
+    The pages of the product's web site, whose addresses this host only shows: nothing is fetched. Also what there is to
+    know of the product, and whether its data files are there.
+*/
 class CHelpMenu final : public QMenu
 {
     Q_OBJECT
@@ -17,6 +20,11 @@ public:
 
 Q_SIGNALS:
     void linkChosen(const QUrl &address);
+
+public Q_SLOTS:
+    void showAboutBox();
+    /*! A box for each file that can't be read. */
+    void checkDataFiles();
 
 private:
     void addLink(const QString &text, CRedirectionLinks::zyxLinkType type);

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include "Gate.h"
 #include "HelpMenu.h"
 #include "LanguageMenu.h"
+#include "PhotoBar.h"
 #include "PhotoLoader.h"
-#include "PhotoService.h"
 #include "PhotoView.h"
 #include "SettingsPanel.h"
 #include "UnitMenu.h"
@@ -24,12 +25,11 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QScopeGuard>
 #include <QtGui/QAction>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QInputDialog>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>
+#include <QtWidgets/QVBoxLayout>
 
 using namespace ZYX_zglv6;
 
@@ -39,11 +39,6 @@ constexpr QSize firstSize(1100, 780);
 constexpr int patienceMs = 30'000; // for a photograph on a slow drive
 constexpr QLatin1StringView panelKey("lightbox/panel");
 
-CActionManager &gate()
-{
-    return Singleton<CActionManager>::instance();
-}
-
 } // namespace
 
 CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
@@ -51,6 +46,7 @@ CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
     , m_photos(photos)
     , m_files(this)
     , m_view(new CPhotoView)
+    , m_bar(new CPhotoBar)
     , m_panel(new CSettingsPanel)
     , m_loadTimeLimit(patienceMs)
 {
@@ -61,7 +57,11 @@ CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
     table->setObjectName(u"centralWidget"_qs); // the sheets know it by this name
     auto *layout = new QHBoxLayout(table);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view, 1);
+    layout->setSpacing(0);
+    auto *column = new QVBoxLayout;
+    column->addWidget(m_view, 1);
+    column->addWidget(m_bar);
+    layout->addLayout(column, 1);
     layout->addWidget(m_panel);
     setCentralWidget(table);
     statusBar(); // made before the window is shown, so that it is laid out with it
@@ -83,8 +83,16 @@ void CMainWindow::addPhotographMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Photograph"));
     addCommand(menu, tr("&Open..."), QKeySequence::Open, "open");
+    addCommand(menu, tr("Open a &folder..."), Qt::CTRL | Qt::SHIFT | Qt::Key_O, "openFolder");
     m_next = addCommand(menu, tr("&Next"), Qt::Key_Right, "showNext");
-    addCommand(menu, tr("&Previous"), Qt::Key_Left, "showPrevious");
+    QAction *previous = addCommand(menu, tr("&Previous"), Qt::Key_Left, "showPrevious");
+    m_bar->addCommand(previous, u":/icons/arrows/left-icon-%1.svg"_qs);
+    m_bar->addCommand(m_next, u":/icons/arrows/right-icon-%1.svg"_qs);
+    m_bar->addGap();
+    QAction *turn = addCommand(menu, tr("Tu&rn"), Qt::CTRL | Qt::Key_R, "turn");
+    m_bar->addCommand(turn, u":/icons/toolBar/rotate-right-%1.svg"_qs);
+    m_bar->addGap();
+    addCommand(menu, tr("&Save the print..."), QKeySequence::Save, "savePrint");
     addCommand(menu, tr("&Ask the service"), Qt::Key_D, "askService");
     addCommand(menu, tr("Save a &copy..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S, "saveCopy");
     addCommand(menu, tr("Move to the &trash..."), QKeySequence::Delete, "moveToTrash");
@@ -97,6 +105,11 @@ void CMainWindow::addPhotographMenu()
 void CMainWindow::addViewMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&View"));
+    m_bar->addCommand(addCommand(menu, tr("Zoom &in"), QKeySequence::ZoomIn, "zoomIn"),
+                      u":/icons/printing/ic-zoom-in-%1.png"_qs);
+    m_bar->addCommand(addCommand(menu, tr("Zoom &out"), QKeySequence::ZoomOut, "zoomOut"),
+                      u":/icons/printing/ic-zoom-out-%1.png"_qs);
+    addCommand(menu, tr("&Whole photograph"), Qt::CTRL | Qt::Key_0, "zoomToFit");
     addSwitch(menu, tr("&Fill the window"), Qt::Key_F, false, "setFilling");
     addSwitch(menu, tr("&Settings"), Qt::Key_S, true, "setPanelShown");
     auto *units = new CUnitMenu(menu);
@@ -206,106 +219,10 @@ QString CMainWindow::statusText() const
     return statusBar()->currentMessage();
 }
 
-void CMainWindow::showNext()
-{
-    m_photos.moveToNext();
-    showCurrent();
-}
-
-void CMainWindow::showPrevious()
-{
-    m_photos.moveToPrevious();
-    showCurrent();
-}
-
-void CMainWindow::open()
-{
-    gate().blockActions(); // no remembered command shall come while the dialog is open
-    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    const QString path
-        = QFileDialog::getOpenFileName(this, tr("Open a photograph"), m_photos.folder(),
-                                       tr("Photographs (%1)").arg(imageFilter) + u";;" + tr("All files (*)"));
-    if (!path.isEmpty()) {
-        m_photos = CPhotoList(path);
-        showCurrent();
-    }
-}
-
-void CMainWindow::moveToTrash()
-{
-    if (m_photos.current().isEmpty()) {
-        return;
-    }
-    gate().blockActions(); // as while a photograph is chosen
-    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    const CPhotoFiles::Outcome outcome = m_files.moveToTrash(m_photos.current());
-    if (outcome.isDone) {
-        m_photos.leaveCurrent();
-        showCurrent();
-    } else if (!outcome.text.isEmpty()) {
-        statusBar()->showMessage(outcome.text);
-    }
-}
-
-void CMainWindow::saveCopy()
-{
-    if (m_photos.current().isEmpty()) {
-        return;
-    }
-    gate().blockActions();
-    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    const CPhotoFiles::Outcome outcome = m_files.saveCopy(m_photos.current());
-    if (!outcome.text.isEmpty()) {
-        statusBar()->showMessage(outcome.text);
-    }
-}
-
-/*! Asks for the address if none is known. Busy until there is an answer, as with a loading. */
-void CMainWindow::askService()
-{
-    gate().blockActions();
-    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    if (m_service.host().isEmpty()) {
-        m_service
-            = QUrl::fromUserInput(QInputDialog::getText(this, tr("Ask the service"), tr("Address of the service:")));
-    }
-    if (!m_service.host().isEmpty()) {
-        statusBar()->showMessage(tr("Asking %1").arg(m_service.toDisplayString()));
-        statusBar()->showMessage(CPhotoService(m_service).describe(currentName(), m_currentSize));
-    }
-}
-
-void CMainWindow::setFilling(bool isFilling)
-{
-    m_view->setFilling(isFilling);
-}
-
-void CMainWindow::setPanelShown(bool isShown)
-{
-    m_panel->setVisible(isShown);
-}
-
-void CMainWindow::setBlackAndWhite(bool isBlackAndWhite)
-{
-    m_view->setBlackAndWhite(isBlackAndWhite);
-    storePanel();
-}
-
-void CMainWindow::setMirrored(bool isMirrored)
-{
-    m_view->setMirrored(isMirrored);
-    storePanel();
-}
-
-void CMainWindow::setFramed(bool isFramed)
-{
-    m_view->setFramed(isFramed);
-    storePanel();
-}
-
 void CMainWindow::showCurrent()
 {
     m_currentSize = QSize(); // not known before it is loaded
+    m_isTurned = false;
     if (m_photos.current().isEmpty()) {
         m_view->showPhoto(QImage());
         statusBar()->showMessage(tr("No photographs in this folder"));
@@ -319,7 +236,11 @@ void CMainWindow::showCurrent()
 void CMainWindow::loadCurrent()
 {
     gate().blockActions();
-    const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
+    m_view->startProgress();
+    const auto unblock = qScopeGuard([this] {
+        m_view->stopProgress(); // which handles events: no command shall come with them
+        gate().unBlockActions();
+    });
     statusBar()->showMessage(tr("Loading %1").arg(currentName()));
 
     CPhotoLoader &loader = addLoader();

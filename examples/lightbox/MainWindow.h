@@ -15,6 +15,7 @@
 #include <memory>
 #include <vector>
 
+class CPhotoBar;
 class CPhotoLoader;
 class CPhotoView;
 class CSettingsPanel;
@@ -67,9 +68,15 @@ public Q_SLOTS:
     void showNext();
     void showPrevious();
     void open();
+    void openFolder();
     void moveToTrash();
     void saveCopy();
+    void savePrint();
     void askService();
+    void turn();
+    void zoomIn();
+    void zoomOut();
+    void zoomToFit();
     void setFilling(bool isFilling);
     void setPanelShown(bool isShown);
     void setBlackAndWhite(bool isBlackAndWhite);
@@ -79,6 +86,9 @@ public Q_SLOTS:
     /*! Loads and shows the current photograph of the list; an unreadable one is reported to the user. */
     void showCurrent();
 
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     void addPhotographMenu();
     void addViewMenu();
@@ -87,6 +97,9 @@ private:
     QAction *addCommand(QMenu *menu, const QString &text, const QKeySequence &shortcut, const char *slot);
     void addSwitch(QMenu *menu, const QString &text, const QKeySequence &shortcut, bool isOn, const char *slot);
 
+    bool mayLeave();
+    void showPhotosOf(const QString &path);
+    void tell(const CPhotoFiles::Outcome &outcome);
     void loadCurrent();
     CPhotoLoader &addLoader();
     void showLoaded(const CPhotoLoader &loader);
@@ -96,9 +109,11 @@ private:
     CPhotoList m_photos;
     CPhotoFiles m_files;
     CPhotoView *m_view;
+    CPhotoBar *m_bar;
     CSettingsPanel *m_panel;
     QAction *m_next = nullptr;
     QSize m_currentSize;
+    bool m_isTurned = false; // and the print is not saved
     QUrl m_service;
     int m_loadTimeLimit;
     std::vector<std::unique_ptr<CPhotoLoader>> m_loaders; // of this photograph, and of those given up that still run

@@ -2,24 +2,44 @@
 // SPDX-License-Identifier: MIT
 #include "PhotoFiles.h"
 
+#include "baseDialogs/NativeDialogs.h"
+#include "utilsDll/dialogs/MessageBox.h"
 #include "utilsDll/files/FileUtils.h"
 #include "utilsDll/frame/LoggerInterface.h"
+#include "utilsDll/settings/Settings.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
 #include <QtCore/QSize>
+#include <QtGui/QImageWriter>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QInputDialog>
-#include <QtWidgets/QMessageBox>
 
 using namespace ZYX_zglv6;
 
 namespace {
 
 constexpr QSize sizeForNames(400, 0);
+constexpr QLatin1StringView trashWithoutQuestionKey("lightbox/trashWithoutQuestion");
+
+/*! A name may look like markup. */
+QString asPlainText(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
 
 QString nameOf(const QString &photo)
 {
     return QFileInfo(photo).fileName();
+}
+
+/*! \a form has a place for what stands before the suffix of \a name. */
+QString withBaseName(const QString &name, const QString &form)
+{
+    const QFileInfo file(name);
+    const QString base = form.arg(file.completeBaseName());
+    return file.suffix().isEmpty() ? base : QString(base + u'.' + file.suffix());
 }
 
 /*! The free space is 0 also where it can't be asked for: then the copy itself shows whether there is room. */
@@ -51,15 +71,44 @@ CPhotoFiles::Outcome CPhotoFiles::moveToTrash(const QString &photo) const
 
 bool CPhotoFiles::askWhetherToTrash(const QString &photo) const
 {
-    QMessageBox box(m_window);
-    box.setIcon(QMessageBox::Question);
-    box.setWindowTitle(tr("Move to the trash"));
-    box.setTextFormat(Qt::PlainText); // a name may look like markup
-    box.setText(tr("Move \"%1\" to the trash?").arg(nameOf(photo)));
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::No);
-    box.setWindowModality(Qt::WindowModal);
-    return box.exec() == QMessageBox::Yes;
+    if (CSettings().value(trashWithoutQuestionKey, false).toBool()) {
+        return true;
+    }
+    const auto [answer, isLastQuestion] = CMessageBox::yesNoMessageWithCheckBox(
+        m_window, tr("Move to the trash"), asPlainText(tr("Move \"%1\" to the trash?").arg(nameOf(photo))),
+        tr("Do not ask again"), false, QMessageBox::No);
+    if (answer != QMessageBox::Yes) {
+        return false;
+    }
+    if (isLastQuestion) {
+        CSettings().setValue(trashWithoutQuestionKey, true);
+    }
+    return true;
+}
+
+CPhotoFiles::Outcome CPhotoFiles::savePrint(const QString &photo, const QImage &print) const
+{
+    const QString path = Singleton<CNativeDialogs>::instance().getSaveFileName(
+        m_window, tr("Save the print"), QFileInfo(photo).absoluteDir().filePath(nameOfPrint(nameOf(photo))),
+        tr("JPEG (*.jpg)") + u";;" + tr("PNG (*.png)"), nullptr, QFileDialog::Options());
+    if (path.isEmpty()) {
+        return {};
+    }
+    QSaveFile file(path); // what is there stays as it is until the print is whole
+    QImageWriter writer(&file, QFileInfo(path).suffix().toLatin1());
+    if (!file.open(QIODevice::WriteOnly) || !writer.write(print) || !file.commit()) {
+        ZYX_LOG('W', path + u" could not be written");
+        return {false, tr("%1 can't be saved").arg(nameOf(path))};
+    }
+    return {true, tr("Saved the print as %1").arg(nameOf(path))};
+}
+
+bool CPhotoFiles::mayLeave(const QString &photo, const QImage &print) const
+{
+    const QMessageBox::StandardButton answer = CMessageBox::saveDiscardCancelMessage(
+        m_window, tr("Save the print"), asPlainText(tr("\"%1\" was turned. Save the print?").arg(nameOf(photo))),
+        QMessageBox::Save);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && savePrint(photo, print).isDone);
 }
 
 CPhotoFiles::Outcome CPhotoFiles::saveCopy(const QString &photo) const
@@ -75,9 +124,12 @@ CPhotoFiles::Outcome CPhotoFiles::saveCopy(const QString &photo) const
 
 QString CPhotoFiles::nameOfCopy(const QString &name)
 {
-    const QFileInfo file(name);
-    const QString base = tr("%1 copy").arg(file.completeBaseName());
-    return file.suffix().isEmpty() ? base : QString(base + u'.' + file.suffix());
+    return withBaseName(name, tr("%1 copy"));
+}
+
+QString CPhotoFiles::nameOfPrint(const QString &name)
+{
+    return withBaseName(name, tr("%1 print"));
 }
 
 CPhotoFiles::Outcome CPhotoFiles::copy(const QString &photo, const QString &name)

@@ -4,6 +4,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
+#include <QtGui/QImage>
 
 class QWidget;
 
@@ -24,14 +25,22 @@ public:
 
     explicit CPhotoFiles(QWidget *window);
 
-    /*! Moves \a photo to the trash if the user wants it. */
+    /*! Moves \a photo to the trash if the user wants it, who may want no more questions about that. */
     Outcome moveToTrash(const QString &photo) const;
+
+    /*! Saves \a print, which was made of \a photo, under a name that the user gives, in the format that its ending
+     * tells. */
+    Outcome savePrint(const QString &photo, const QImage &print) const;
+
+    /*! Whether a turned print of \a photo may go: it was saved, or the user does not want it. */
+    bool mayLeave(const QString &photo, const QImage &print) const;
 
     /*! Copies \a photo in its folder under a name that the user gives. Nothing is replaced. */
     Outcome saveCopy(const QString &photo) const;
 
-    /*! What a copy of \a name is called if nobody has a better name. */
+    /*! What a copy and a print of the file \a name are called if nobody has a better name. */
     static QString nameOfCopy(const QString &name);
+    static QString nameOfPrint(const QString &name);
 
 private:
     bool askWhetherToTrash(const QString &photo) const;

@@ -6,8 +6,6 @@
 #include "utilsDll/soap/QtSoapHttpTransport.h"
 #include "utilsDll/soap/QtSoapMessage.h"
 
-#include <QtCore/QCoreApplication>
-
 #include <utility>
 
 using namespace ZYX_zglv6;
@@ -15,11 +13,6 @@ using namespace ZYX_zglv6;
 namespace {
 
 constexpr int patienceMs = 10'000;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("CPhotoService", text);
-}
 
 QString serviceUri()
 {
@@ -39,9 +32,9 @@ QtSoapMessage requestFor(const QString &photo, QSize size)
 QString inWords(const QtSoapMessage &answer)
 {
     if (answer.isFault()) { // also if there was no service, or no answer that could be read
-        return translated("No description: %1").arg(answer.faultString().toString());
+        return CPhotoService::tr("No description: %1").arg(answer.faultString().toString());
     }
-    return translated("The service says: %1").arg(answer.returnValue().toString());
+    return CPhotoService::tr("The service says: %1").arg(answer.returnValue().toString());
 }
 
 } // namespace
@@ -61,5 +54,5 @@ QString CPhotoService::describe(const QString &photo, QSize size) const
     transport.submitRequest(requestFor(photo, size), path.isEmpty() ? u"/"_qs : path);
     waiter.startWaiting(patienceMs);
     return waiter.isOperationCompleted() && waiter.isOperationSuccess() ? inWords(transport.getResponse())
-                                                                        : translated("The service takes too long");
+                                                                        : tr("The service takes too long");
 }

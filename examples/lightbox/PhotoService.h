@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtCore/QUrl>
@@ -9,6 +10,8 @@
 /*! A service that describes photographs in words, spoken to in SOAP. */
 class CPhotoService
 {
+    Q_DECLARE_TR_FUNCTIONS(CPhotoService)
+
 public:
     /*! Where it is, such as "http://127.0.0.1:8000/". */
     explicit CPhotoService(QUrl address);

@@ -2,28 +2,75 @@
 // SPDX-License-Identifier: MIT
 #include "PhotoView.h"
 
-#include <QtGui/QPainter>
+#include "uiControls/IconViewer.h"
+#include "utilsDll/dialogs/ProgressPainter.h"
 
-#include <utility>
+#include <QtGui/QPainter>
+#include <QtGui/QTransform>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+using namespace ZYX_zglv6;
 
 namespace {
 
-constexpr QRgb ground = qRgb(0x23, 0x23, 0x23);
-constexpr int border = 24;
-constexpr int frameWidth = 12;
+constexpr int border = 24; // around the print, for its shadow
+constexpr int framesOnALongSide = 60;
+constexpr int wholeScale = 100;
+constexpr std::array scales{5, 10, 25, 33, 50, 67, 100, 150, 200, 300, 400};
+
+QImage framed(const QImage &photo)
+{
+    const int width = std::max(1, std::max(photo.width(), photo.height()) / framesOnALongSide);
+    QImage print(photo.size() + QSize(width, width) * 2, QImage::Format_RGB32);
+    print.fill(Qt::white);
+    QPainter(&print).drawImage(width, width, photo);
+    return print;
+}
 
 } // namespace
 
 CPhotoView::CPhotoView(QWidget *parent)
-    : QWidget(parent)
+    : QScrollArea(parent)
 {
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    auto *table = new QWidget;
+    table->setObjectName(u"photoTable"_qs);
+    table->setAttribute(Qt::WA_StyledBackground);
+    table->setStyleSheet(u"#photoTable { background: #232323; }"_qs);
+    m_margins = new QVBoxLayout(table);
+    m_viewer = new CIconViewer(table);
+    m_viewer->setExpandContent(true);
+    m_margins->addWidget(m_viewer);
+    setWidget(table);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Photograph"));
+    m_progress = new ProgressPainter(this, viewport());
+    m_zoomLabel = new ZoomPainter(this, viewport());
+    layOut();
 }
 
 void CPhotoView::showPhoto(const QImage &photo)
 {
     m_photo = photo;
+    m_zoom = 0;
     develop();
+}
+
+QImage CPhotoView::print() const
+{
+    if (m_photo.isNull()) {
+        return {};
+    }
+    QImage print = m_isBlackAndWhite ? m_photo.convertToFormat(QImage::Format_Grayscale8) : m_photo;
+    if (m_isMirrored) {
+        print.mirror(true, false);
+    }
+    return m_isFramed ? framed(print) : print;
 }
 
 void CPhotoView::setBlackAndWhite(bool isBlackAndWhite)
@@ -41,39 +88,104 @@ void CPhotoView::setMirrored(bool isMirrored)
 void CPhotoView::setFramed(bool isFramed)
 {
     m_isFramed = isFramed;
-    update();
+    develop();
+}
+
+void CPhotoView::turn()
+{
+    constexpr qreal quarter = 90;
+    // A print that is mirrored afterwards turns the other way.
+    m_photo = m_photo.transformed(QTransform().rotate(m_isMirrored ? -quarter : quarter));
+    develop();
 }
 
 void CPhotoView::setFilling(bool isFilling)
 {
     m_isFilling = isFilling;
-    update();
+    m_zoom = 0;
+    layOut();
+}
+
+void CPhotoView::zoomIn()
+{
+    const auto *next = std::upper_bound(scales.begin(), scales.end(), zoom());
+    zoomTo(next == scales.end() ? scales.back() : *next);
+}
+
+void CPhotoView::zoomOut()
+{
+    const auto *current = std::lower_bound(scales.begin(), scales.end(), zoom());
+    zoomTo(current == scales.begin() ? scales.front() : *(current - 1));
+}
+
+void CPhotoView::zoomToFit()
+{
+    zoomTo(0);
+}
+
+int CPhotoView::zoom() const
+{
+    const int width = m_viewer->pixmap().width();
+    return width == 0 ? 0 : int(std::lround(wholeScale * double(m_viewer->outputRect().width()) / width));
+}
+
+void CPhotoView::startProgress()
+{
+    m_progress->onStartProgress(true);
+}
+
+void CPhotoView::stopProgress()
+{
+    m_progress->onStopProgress(false);
+}
+
+void CPhotoView::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    m_progress->moveToCenter(0);
+    m_zoomLabel->updateZoomPos(0);
+}
+
+void CPhotoView::wheelEvent(QWheelEvent *event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QScrollArea::wheelEvent(event);
+        return;
+    }
+    const int turned = event->angleDelta().y();
+    if (turned != 0) {
+        turned > 0 ? zoomIn() : zoomOut();
+    }
+    event->accept();
 }
 
 void CPhotoView::develop()
 {
-    QImage print = m_isBlackAndWhite ? m_photo.convertToFormat(QImage::Format_Grayscale8) : m_photo;
-    if (m_isMirrored) {
-        print = std::move(print).mirrored(true, false);
-    }
-    m_print = QPixmap::fromImage(print);
-    update();
+    m_viewer->setPixmap(QPixmap::fromImage(print()));
+    layOut();
 }
 
-void CPhotoView::paintEvent(QPaintEvent * /*event*/)
+void CPhotoView::zoomTo(int percent)
 {
-    QPainter painter(this);
-    painter.fillRect(rect(), QColor(ground));
-    if (m_print.isNull()) {
+    if (m_viewer->isEmpty()) {
         return;
     }
-    const QRect area = m_isFilling ? rect() : rect().adjusted(border, border, -border, -border);
-    const Qt::AspectRatioMode mode = m_isFilling ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
-    QRect place(QPoint(), m_print.size().scaled(area.size(), mode));
-    place.moveCenter(area.center());
-    if (m_isFramed) {
-        painter.fillRect(place.adjusted(-frameWidth, -frameWidth, frameWidth, frameWidth), Qt::white);
-    }
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(place, m_print);
+    m_zoom = percent;
+    layOut();
+    m_zoomLabel->showZoom(QString::number(zoom()), 0);
+}
+
+/*! At once, so that zoom() tells what will be seen. */
+void CPhotoView::layOut()
+{
+    const bool isFilling = m_isFilling && m_zoom == 0;
+    const int margin = isFilling ? 0 : border;
+    m_margins->setContentsMargins(margin, margin, margin, margin);
+    m_viewer->setAspectRatio(isFilling ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio);
+    m_viewer->setShowShadow(!isFilling);
+    m_viewer->setMinimumSize(m_zoom == 0 ? QSize(0, 0) : m_viewer->pixmap().size() * m_zoom / wholeScale);
+    m_viewer->setExpandContent(m_zoom == 0);
+    m_viewer->setMandatoryImageSize(m_zoom == 0 ? QSize(-1, -1) : m_viewer->minimumSize());
+    m_margins->activate();
+    setWidgetResizable(true); // lays the table out now, not at the next turn of the event loop
 }

@@ -3,36 +3,69 @@
 #pragma once
 
 #include <QtGui/QImage>
-#include <QtGui/QPixmap>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QScrollArea>
 
-/*! Shows one photograph on a dark ground, as large as it fits. */
-class CPhotoView final : public QWidget
+class CIconViewer;
+class QVBoxLayout;
+
+namespace ZYX_zglv6 {
+class ProgressPainter;
+class ZoomPainter;
+} // namespace ZYX_zglv6
+
+/*!
+    Shows one photograph on a dark ground with a shadow around it: as large as it fits, or magnified, and then it can be
+    scrolled. What is done to it makes the print that is shown; the photograph stays as it is.
+*/
+class CPhotoView final : public QScrollArea
 {
     Q_OBJECT
 
 public:
     explicit CPhotoView(QWidget *parent = nullptr);
 
-    /*! Shows \a photo; with a null one only the ground. */
+    /*! Shows \a photo as it was taken, as large as it fits; with a null one only the ground. */
     void showPhoto(const QImage &photo);
+
+    /*! The photograph with all that was done to it, in its own pixels. */
+    QImage print() const;
 
     void setBlackAndWhite(bool isBlackAndWhite);
     void setMirrored(bool isMirrored);
     void setFramed(bool isFramed);
+    /*! By a quarter, clockwise. */
+    void turn();
     /*! Fills the view to its edges, so that a part of the photograph may lie outside. */
     void setFilling(bool isFilling);
 
+    /*! To the next larger or smaller of some usual scales; the new one is told for a second. */
+    void zoomIn();
+    void zoomOut();
+    void zoomToFit();
+    /*! In percent of the photograph's own pixels; 0 without one. */
+    int zoom() const;
+
+    /*! Says that the view is busy, if that takes longer than a moment. */
+    void startProgress();
+    void stopProgress();
+
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     void develop();
+    void zoomTo(int percent);
+    void layOut();
 
     QImage m_photo;
-    QPixmap m_print; // as it is shown
     bool m_isBlackAndWhite = false;
     bool m_isMirrored = false;
     bool m_isFramed = false;
     bool m_isFilling = false;
+    int m_zoom = 0; // in percent; 0 for as large as it fits
+    QVBoxLayout *m_margins;
+    CIconViewer *m_viewer;
+    ZYX_zglv6::ProgressPainter *m_progress;
+    ZYX_zglv6::ZoomPainter *m_zoomLabel;
 };

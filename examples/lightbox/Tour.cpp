@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
+#include "DialogsTour.h"
 #include "FilesTour.h"
 #include "MainWindow.h"
 #include "PhotoService.h"
@@ -126,6 +127,7 @@ void CTour::commandCarriedOut()
     questions();
     files();
     languages();
+    printLine(19, QLatin1StringView("dialogs"), tourDialogs(m_window));
     crash();
     Q_EMIT finished(); // keep last
 }
@@ -202,7 +204,7 @@ void CTour::crash()
                 m_options.photos});
     const qint64 process = host.processId();
     const bool isOver = host.waitForFinished(crashPatienceMs);
-    printLine(19, QLatin1StringView("crash"),
+    printLine(20, QLatin1StringView("crash"),
               isOver ? u"another lightbox %1; it left %2"_qs.arg(deathOf(host), dumpOf(process))
                      : u"another lightbox did not crash: %1"_qs.arg(host.errorString()));
 }

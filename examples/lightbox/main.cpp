@@ -5,6 +5,7 @@
 #include "LightboxApplication.h"
 #include "MainWindow.h"
 #include "Options.h"
+#include "Texts.h"
 #include "Tour.h"
 
 #include "common/Look.h"
@@ -41,11 +42,13 @@ int main(int argc, char *argv[])
     CLightboxApplication application(argc, argv);
     const Options options = parseOptions();
     useOwnStore(options.workFolder);
+    noteInstallation();
 
     CStartUp startUp(options, u"lightbox"_qs);
     startUp.goTheWholeWay();
     watchForCrashes(options);
     putOnLook(options.language);
+    speakLoadedLanguage();
 
     CMainWindow window(options.photos);
     application.setMainWindow(&window);
@@ -64,6 +67,6 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    printLine(20, QLatin1StringView("left"), u"with %1"_qs.arg(result));
+    printLine(21, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }

@@ -117,7 +117,7 @@ void tst_Lightbox::start_printsOneLineForEachStep()
     QVERIFY(!first.step(7).endsWith(u" 0x0"));
     QVERIFY2(first.step(8).contains(u"the first, last mode \"\", user "), qPrintable(first.step(8)));
     QVERIFY(first.step(9).endsWith(u" no state stored yet"));
-    QVERIFY(first.step(20).endsWith(u" with 0"));
+    QVERIFY(first.step(21).endsWith(u" with 0"));
     QCOMPARE(first.lines.size(), 11); // the logger has a line of its own
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }

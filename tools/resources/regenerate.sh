@@ -5,7 +5,7 @@
 # Makes the generated files again from their sources. An ordinary build does not need it: its results are committed.
 # In resources/: the .qm catalogues, the icon of the application, all other icons and pictures with the logo, the
 # slogans and the shadows of the preview, the calibration catalogue and its modules.
-# In tests/look/catalogues/: the .qm catalogues.
+# In examples/lightbox/translations/ and tests/look/catalogues/: the .qm catalogues.
 #
 # Needs, by the names of Debian 12: qt6-l10n-tools (lrelease, lconvert), qt6-translations-l10n,
 # librsvg2-bin (rsvg-convert), python3.
@@ -39,7 +39,8 @@ lconvert=$(find_tool lconvert)
 need rsvg-convert librsvg2-bin
 need python3 python3
 
-for source in "$resources"/translations/zyx_*.ts "$root"/tests/look/catalogues/*.ts; do
+for source in "$resources"/translations/zyx_*.ts "$root"/examples/lightbox/translations/*.ts \
+    "$root"/tests/look/catalogues/*.ts; do
     "$lrelease" -silent "$source" -qm "${source%.ts}.qm"
 done
 
