@@ -33,11 +33,14 @@ class QUrl;
 class QWidget;
 
 namespace ZYX_zglv6 {
+class CAboutDlg;
 class CSettingsPushButton;
 class CustomZyxAppStyle;
 class CZipCrashReport;
+class ProgressPainter;
 class QtSoapHttpTransport;
 class QtSoapStruct;
+class ZoomPainter;
 } // namespace ZYX_zglv6
 
 /*! The examples of the pages in docs/. The pages show them word for word, and tests/docs runs them. */
@@ -104,6 +107,20 @@ struct Caption
 };
 
 void addRows(QWidget *panel, const QList<Caption> &captions);
+bool mayClose(QWidget *window, const std::function<bool()> &save);
+bool mayThrowAway(QWidget *window, const QString &name, bool &isAskedAgain);
+void develop(ZYX_zglv6::ProgressPainter &painter, const std::function<void()> &compute);
+void showScale(ZYX_zglv6::ZoomPainter &painter, double scale);
+
+// baseDialogs.cpp
+
+QString chooseTarget(QWidget *window, const QString &photograph);
+QString chooseSource(QWidget &window, const QString &lastFolder);
+void showInHost(quint64 hostWindow, QWidget *panel);
+
+// aboutDlg.cpp
+
+ZYX_zglv6::CAboutDlg *showAboutBox(QWidget *window);
 
 // actions.cpp
 
