@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "GalleryWindow.h"
 
+#include "ExhibitPage.h"
 #include "SheetPage.h"
 
 #include "common/Look.h"
@@ -41,7 +42,7 @@ QString pathOf(const QString &name)
 
 } // namespace
 
-CGalleryWindow::CGalleryWindow(QWidget *parent)
+CGalleryWindow::CGalleryWindow(const QList<ExhibitSection> &sections, bool withSheets, QWidget *parent)
     : QSplitter(parent)
     , m_list(new QListWidget)
     , m_stack(new QStackedWidget)
@@ -58,10 +59,12 @@ CGalleryWindow::CGalleryWindow(QWidget *parent)
     addWidget(m_stack);
     setSizes({listWidth, firstSize.width() - listWidth});
     resize(firstSize);
-    for (const QString &name : sheetNames()) {
-        if (QFileInfo(pathOf(name)).size() > 0) {
-            addPage(name);
-        }
+    for (const ExhibitSection &section : sections) {
+        m_exhibitPages.append(new CExhibitPage(section));
+        addPage(section.title, m_exhibitPages.last());
+    }
+    if (withSheets) {
+        addSheets();
     }
     connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
     m_list->setCurrentRow(0);
@@ -69,23 +72,31 @@ CGalleryWindow::CGalleryWindow(QWidget *parent)
     setCustomStyleSheet(side, QssLoadBaseSheets, u":/gallery/gallery.qss"_qs);
 }
 
-QList<CSheetPage *> CGalleryWindow::pages() const
+QList<CSheetPage *> CGalleryWindow::sheetPages() const
 {
-    return m_pages;
+    return m_sheetPages;
 }
 
-QStringList CGalleryWindow::writePages(const QString &folder, const QString &language) const
+int CGalleryWindow::writeSheets(const QString &folder, const QString &language) const
 {
-    QDir().mkpath(folder);
-    QStringList written;
-    for (qsizetype i = 0; i < m_pages.size(); ++i) {
+    int failures = 0;
+    for (qsizetype i = 0; i < m_sheetPages.size(); ++i) {
         const QString name
-            = u"%1-%2-%3.png"_qs.arg(language, QString::number(i + 1).rightJustified(2, u'0'), m_names.at(i));
-        if (m_pages.at(i)->widget()->grab().save(QDir(folder).filePath(name))) {
-            written.append(name);
-        }
+            = u"%1-%2-%3.png"_qs.arg(language, QString::number(i + 1).rightJustified(2, u'0'), m_sheetNames.at(i));
+        failures += m_sheetPages.at(i)->widget()->grab().save(QDir(folder).filePath(name)) ? 0 : 1;
     }
-    return written;
+    return failures;
+}
+
+int CGalleryWindow::writeExhibits(const QString &folder, const PictureName &name, const QString &only)
+{
+    show();
+    int failures = 0;
+    for (CExhibitPage *page : m_exhibitPages) {
+        m_stack->setCurrentWidget(page);
+        failures += page->writePictures(folder, name, only);
+    }
+    return failures;
 }
 
 QWidget *CGalleryWindow::newLanguageBox()
@@ -102,11 +113,19 @@ QWidget *CGalleryWindow::newLanguageBox()
     return box;
 }
 
-void CGalleryWindow::addPage(const QString &name)
+void CGalleryWindow::addSheets()
 {
-    auto *page = new CSheetPage(pathOf(name));
+    for (const QString &name : sheetNames()) {
+        if (QFileInfo(pathOf(name)).size() > 0) {
+            m_sheetNames.append(name);
+            m_sheetPages.append(new CSheetPage(pathOf(name)));
+            addPage(name, m_sheetPages.last());
+        }
+    }
+}
+
+void CGalleryWindow::addPage(const QString &name, QWidget *page)
+{
     m_stack->addWidget(page);
     m_list->addItem(name);
-    m_pages.append(page);
-    m_names.append(name);
 }

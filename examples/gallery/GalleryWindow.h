@@ -2,26 +2,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Exhibit.h"
+#include "PictureName.h"
+
 #include <QtCore/QList>
 #include <QtWidgets/QSplitter>
 
+class CExhibitPage;
 class CSheetPage;
 class QListWidget;
 class QStackedWidget;
 
-/*! The languages, a list of the embedded sheets, and the page of the chosen one. */
+/*! The languages, a list of the kinds of exhibits and the embedded sheets, and the page of the chosen one. */
 class CGalleryWindow final : public QSplitter
 {
     Q_OBJECT
 
 public:
-    explicit CGalleryWindow(QWidget *parent = nullptr);
+    CGalleryWindow(const QList<ExhibitSection> &sections, bool withSheets, QWidget *parent = nullptr);
 
     /*! In the order in which the sheets are joined. */
-    QList<CSheetPage *> pages() const;
+    QList<CSheetPage *> sheetPages() const;
 
-    /*! Writes each page into \a folder as "<language>-<number>-<sheet>.png". The names of those that were written. */
-    QStringList writePages(const QString &folder, const QString &language) const;
+    /*! Writes each sheet's page into \a folder as "<language>-<number>-<sheet>.png". Returns how many could not be. */
+    int writeSheets(const QString &folder, const QString &language) const;
+
+    /*! Writes a picture of each exhibit, as CExhibitPage does. Shows the window. Returns how many could not be. */
+    int writeExhibits(const QString &folder, const PictureName &name, const QString &only);
 
 Q_SIGNALS:
     /*! The user wants to see another language: a matter of another start. */
@@ -29,10 +36,12 @@ Q_SIGNALS:
 
 private:
     QWidget *newLanguageBox();
-    void addPage(const QString &name);
+    void addSheets();
+    void addPage(const QString &name, QWidget *page);
 
     QListWidget *m_list;
     QStackedWidget *m_stack;
-    QList<CSheetPage *> m_pages;
-    QStringList m_names;
+    QList<CExhibitPage *> m_exhibitPages;
+    QList<CSheetPage *> m_sheetPages;
+    QStringList m_sheetNames;
 };

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "Exhibits.h"
 #include "GalleryWindow.h"
+#include "IndexPage.h"
+#include "Options.h"
 #include "SheetPage.h"
 
 #include "common/Look.h"
@@ -13,6 +16,7 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
@@ -22,12 +26,49 @@ using namespace ZYX_zglv6;
 
 namespace {
 
-int writePages(const CGalleryWindow &window, const QString &folder)
+/*! For the file dialogs, which paint no more of a photograph than its name. */
+QString makePhotos(const QString &folder)
 {
-    const QStringList written = window.writePages(folder, CLanguageManager::getInstance().currentLanguageAbbrv());
-    QTextStream(stdout) << loadedLanguageName() << ": " << written.size() << " of " << window.pages().size()
-                        << " pictures in " << QDir::toNativeSeparators(folder) << Qt::endl;
-    return written.size() == window.pages().size() ? 0 : 1;
+    const QDir photos(folder + u"/Photographs");
+    bool areThere = photos.mkpath(u"."_qs);
+    for (const QString &name : {u"lighthouse.jpg"_qs, u"mountain-lake.jpg"_qs, u"old-town.tiff"_qs}) {
+        areThere = QFile(photos.filePath(name)).open(QIODevice::WriteOnly) && areThere;
+    }
+    return areThere ? photos.path() : folder;
+}
+
+QList<IndexEntry> entriesOf(const QList<ExhibitSection> &sections)
+{
+    QList<IndexEntry> entries;
+    for (const ExhibitSection &section : sections) {
+        for (const Exhibit &exhibit : section.exhibits) {
+            entries.append({exhibit.name, exhibit.title});
+        }
+    }
+    return entries;
+}
+
+/*! The sheets' pages only in one form: what they show of the look is the same in all. */
+bool hasSheets(const GalleryOptions &options)
+{
+    const bool areWanted = options.only.isEmpty() || options.only == u"sheet";
+    return options.output.isEmpty() || (areWanted && options.ratio == u"1" && !options.isRightToLeft);
+}
+
+int writePictures(CGalleryWindow &window, const GalleryOptions &options, const QList<IndexEntry> &entries)
+{
+    const QString language = CLanguageManager::getInstance().currentLanguageAbbrv();
+    const PictureName name{language, options.ratio, options.isRightToLeft ? u"rtl"_qs : u"ltr"_qs, QString()};
+    if (!QDir().mkpath(options.output)) {
+        QTextStream(stderr) << "gallery: the folder can't be made" << Qt::endl;
+        return 1;
+    }
+    int failures = window.writeSheets(options.output, language);
+    failures += window.writeExhibits(options.output, name, options.only);
+    failures += writeIndexPage(options.output, entries) ? 0 : 1;
+    QTextStream(stdout) << loadedLanguageName() << ", ratio " << name.ratio << ", " << name.direction << ": "
+                        << failures << " failures; " << QDir::toNativeSeparators(options.output) << Qt::endl;
+    return failures == 0 ? 0 : 1;
 }
 
 /*! One line, so that a control that is missing here is noticed. */
@@ -35,7 +76,7 @@ void printSelectors(const CGalleryWindow &window)
 {
     int count = 0;
     QStringList without;
-    for (const CSheetPage *page : window.pages()) {
+    for (const CSheetPage *page : window.sheetPages()) {
         count += page->selectorCount();
         without += page->withoutSpecimen();
     }
@@ -45,41 +86,71 @@ void printSelectors(const CGalleryWindow &window)
 }
 
 /*! The language is a matter of the start: another gallery shows it. */
-void showInstead(CGalleryWindow &window, const QString &language)
+void showInstead(CGalleryWindow &window, const QStringList &arguments)
 {
-    if (QProcess::startDetached(QCoreApplication::applicationFilePath(), {u"--language"_qs, language})) {
+    if (QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments)) {
         window.close();
     } else {
         QTextStream(stderr) << "gallery: another one could not be started" << Qt::endl;
     }
 }
 
+/*! Before there is an application object. */
+void scaleByRatio(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    const QString ratio = ratioIn(arguments);
+    if (!ratio.isEmpty()) {
+        qputenv("QT_SCALE_FACTOR", ratio.toUtf8());
+    }
+}
+
+GalleryOptions optionsOf(const QApplication &application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Shows every box, dialog, widget and overlay of the library, and every control "
+                                     u"that the product's style sheets are for."_qs);
+    parser.addHelpOption();
+    addGalleryOptions(parser);
+    parser.process(application);
+    refuseSurplusArguments(parser, 0);
+    return readGalleryOptions(parser);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    scaleByRatio(argc, argv);
     const QApplication application(argc, argv);
-    QCommandLineParser parser;
-    parser.setApplicationDescription(u"Shows every control that the product's style sheets are for."_qs);
-    parser.addHelpOption();
-    const QCommandLineOption language(u"language"_qs, u"Language, such as \"de\"."_qs, u"abbreviation"_qs);
-    const QCommandLineOption output(u"output"_qs, u"Write the pages as pictures, and leave."_qs, u"folder"_qs);
-    parser.addOptions({language, output});
-    parser.process(application);
-    refuseSurplusArguments(parser, 0);
+    const GalleryOptions options = optionsOf(application);
+    if (!isRatio(options.ratio)) {
+        QTextStream(stderr) << "gallery: a ratio is 1, 1.5 or 2" << Qt::endl;
+        return 1;
+    }
 
     const QTemporaryDir folder;
     useOwnStore(folder.path());
     CTemporarySettings settings{QDir(folder.path())}; // the language of this run is no choice for others
     CSettings::setTemporarySettings(settings);
-    putOnLook(parser.value(language));
-    CGalleryWindow window;
-    printSelectors(window);
-    if (parser.isSet(output)) {
-        return writePages(window, parser.value(output));
+    putOnLook(options.language);
+    if (options.isRightToLeft) {
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     }
-    QObject::connect(&window, &CGalleryWindow::languageWanted, &window,
-                     [&window](const QString &wanted) { showInstead(window, wanted); });
+    const QList<ExhibitSection> sections = exhibitSections(makePhotos(folder.path()));
+    CGalleryWindow window(sections, hasSheets(options));
+    if (hasSheets(options)) {
+        printSelectors(window);
+    }
+    if (!options.output.isEmpty()) {
+        return writePictures(window, options, entriesOf(sections));
+    }
+    QObject::connect(&window, &CGalleryWindow::languageWanted, &window, [&window, &options](const QString &wanted) {
+        showInstead(window, argumentsFor(options, wanted));
+    });
     window.show();
     return QApplication::exec();
 }

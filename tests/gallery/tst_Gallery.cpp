@@ -5,6 +5,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QHash>
 #include <QtCore/QProcess>
+#include <QtCore/QSet>
+#include <QtCore/QXmlStreamReader>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
@@ -19,14 +21,34 @@ struct Run
     QString errors;
 };
 
+/*! The smallest rectangle with all pixels of about that colour. */
+QRect areaOf(const QImage &image, const QColor &colour)
+{
+    QRect area;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            const int distance = qAbs(pixel.red() - colour.red()) + qAbs(pixel.green() - colour.green())
+                + qAbs(pixel.blue() - colour.blue());
+            area |= distance < 12 ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    return area;
+}
+
 } // namespace
 
-/*! The gallery of controls, as a program. */
+/*! The gallery, as a program. */
 class tst_Gallery : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void output_hasAPictureOfEachExhibit();
+    void index_namesEachPicture();
+    void rightToLeft_isMirrored();
+    void ratio_scalesThePictures();
+    void ratio_ofAnotherNumber_endsWithoutStarting();
     void output_hasAPictureOfEachSheet_data();
     void output_hasAPictureOfEachSheet();
     void pages_wearTheSheets();
@@ -37,6 +59,8 @@ private Q_SLOTS:
 private:
     Run run(const QStringList &arguments) const;
     QString folderOf(const QString &language) const;
+    QImage picture(const QString &name) const;
+    bool writeAsWell(const QStringList &arguments) const;
     Run runIn(const QString &language);
 
     TestSupport::Sandbox m_sandbox;
@@ -62,13 +86,106 @@ QString tst_Gallery::folderOf(const QString &language) const
     return m_sandbox.filePath(u"pictures "_qs + language);
 }
 
-/*! Once for each language: a run takes seconds. */
+/*! Once for each language, and all of it in one: a run takes seconds. */
 Run tst_Gallery::runIn(const QString &language)
 {
     if (!m_runs.contains(language)) {
-        m_runs.insert(language, run({u"--language"_qs, language, u"--output"_qs, folderOf(language)}));
+        QStringList arguments{u"--language"_qs, language, u"--output"_qs, folderOf(language)};
+        if (language != u"en") {
+            arguments += {u"--only"_qs, u"sheet"_qs};
+        }
+        m_runs.insert(language, run(arguments));
     }
     return m_runs.value(language);
+}
+
+QImage tst_Gallery::picture(const QString &name) const
+{
+    return QImage(QDir(folderOf(u"en"_qs)).filePath(name));
+}
+
+/*! Into the folder that has all of one language. */
+bool tst_Gallery::writeAsWell(const QStringList &arguments) const
+{
+    const Run gallery = run(QStringList{u"--language"_qs, u"en"_qs, u"--output"_qs, folderOf(u"en"_qs)} + arguments);
+    return gallery.isClean;
+}
+
+void tst_Gallery::output_hasAPictureOfEachExhibit()
+{
+    const Run gallery = runIn(u"en"_qs);
+    QVERIFY2(gallery.isClean, qPrintable(gallery.errors));
+    QVERIFY2(gallery.output.contains(u", ratio 1, ltr: 0 failures; "), qPrintable(gallery.output));
+    const QDir folder(folderOf(u"en"_qs));
+    const QHash<QString, qsizetype> counts{{u"box"_qs, 31}, {u"dialog"_qs, 9}, {u"overlay"_qs, 6}, {u"widget"_qs, 31}};
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+        const QStringList names = folder.entryList({u"en-1-ltr-%1-*.png"_qs.arg(count.key())}, QDir::Files);
+        QVERIFY2(names.size() == count.value(), qPrintable(names.join(u' ')));
+        for (const QString &name : names) {
+            QVERIFY2(picture(name).width() >= 90 && picture(name).height() >= 60, qPrintable(name));
+        }
+    }
+    QCOMPARE(picture(u"en-1-ltr-dialog-about.png"_qs).size(), QSize(541, 485));
+}
+
+void tst_Gallery::rightToLeft_isMirrored()
+{
+    QVERIFY(runIn(u"en"_qs).isClean);
+    QVERIFY(writeAsWell({u"--right-to-left"_qs, u"--only"_qs, u"box-save"_qs}));
+    const QImage usual = picture(u"en-1-ltr-box-save.png"_qs);
+    const QImage mirrored = picture(u"en-1-rtl-box-save.png"_qs);
+    QVERIFY(!usual.isNull());
+    QCOMPARE(mirrored.size(), usual.size());
+    const QColor iconColour(0xe4, 0xa4, 0x33);
+    const QColor highlight(0x98, 0x3c, 0x11);
+    const int middle = usual.width() / 2;
+    QVERIFY(areaOf(usual, iconColour).isValid() && areaOf(usual, iconColour).right() < middle);
+    QVERIFY(areaOf(mirrored, iconColour).left() > middle);
+    QVERIFY(areaOf(usual, highlight).left() > middle);
+    QVERIFY(areaOf(mirrored, highlight).isValid() && areaOf(mirrored, highlight).right() < middle);
+}
+
+void tst_Gallery::ratio_scalesThePictures()
+{
+    QVERIFY(runIn(u"en"_qs).isClean);
+    QVERIFY(writeAsWell({u"--ratio"_qs, u"2"_qs, u"--only"_qs, u"widget-viewer"_qs}));
+    const QDir folder(folderOf(u"en"_qs));
+    const QStringList names = folder.entryList({u"en-2-ltr-*.png"_qs}, QDir::Files);
+    QCOMPARE(names.size(), 13);
+    for (const QString &name : names) {
+        const QImage single = picture(QString(name).replace(u"en-2-"_qs, u"en-1-"_qs));
+        QCOMPARE(picture(name).size(), single.size() * 2);
+    }
+}
+
+/*! After runs of several kinds: it shows what all have left. */
+void tst_Gallery::index_namesEachPicture()
+{
+    QVERIFY(runIn(u"en"_qs).isClean);
+    QVERIFY(writeAsWell({u"--ratio"_qs, u"1.5"_qs, u"--right-to-left"_qs, u"--only"_qs, u"widget-setting-on"_qs}));
+    const QDir folder(folderOf(u"en"_qs));
+    QCOMPARE(folder.entryList({u"en-1.5-*"_qs}, QDir::Files), QStringList(u"en-1.5-rtl-widget-setting-on.png"_qs));
+    QFile page(folder.filePath(u"index.html"_qs));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    QXmlStreamReader reader(&page);
+    QSet<QString> shown;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.name() == u"img") {
+            shown.insert(reader.attributes().value(u"src"_qs).toString());
+        }
+    }
+    QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+    const QStringList names = folder.entryList({u"*.png"_qs}, QDir::Files);
+    QCOMPARE(shown, QSet<QString>(names.cbegin(), names.cend()));
+}
+
+void tst_Gallery::ratio_ofAnotherNumber_endsWithoutStarting()
+{
+    const Run gallery = run({u"--ratio"_qs, u"3"_qs, u"--output"_qs, m_sandbox.filePath(u"none"_qs)});
+    QVERIFY(!gallery.isClean);
+    QVERIFY2(gallery.errors.contains(u"a ratio is 1, 1.5 or 2"), qPrintable(gallery.errors));
+    QVERIFY(!QDir(m_sandbox.filePath(u"none"_qs)).exists());
 }
 
 void tst_Gallery::output_hasAPictureOfEachSheet_data()
@@ -99,7 +216,7 @@ void tst_Gallery::output_hasAPictureOfEachSheet()
         sheets.append(extraSheet);
     }
     sheets += {u"essintial"_qs, u"crash_sender"_qs, u"printing"_qs};
-    QCOMPARE(QDir(folder).entryList(QDir::Files).size(), sheets.size());
+    QCOMPARE(QDir(folder).entryList({u"*-[0-9][0-9]-*.png"_qs}, QDir::Files).size(), sheets.size());
     for (qsizetype i = 0; i < sheets.size(); ++i) {
         const QString name
             = u"%1-%2-%3.png"_qs.arg(language, QString::number(i + 1).rightJustified(2, u'0'), sheets.at(i));
