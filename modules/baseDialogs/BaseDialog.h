@@ -15,7 +15,7 @@ class UTILSDLL_EXPORT CBaseDialog : public QDialog
 
 public:
     /*! \a flags, without the hints for minimizing, maximizing and context help. */
-    explicit CBaseDialog(QWidget *parent = nullptr, QFlags<Qt::WindowType> flags = Qt::WindowFlags());
+    CBaseDialog(QWidget *parent, QFlags<Qt::WindowType> flags);
     ~CBaseDialog() override;
 
     Q_INVOKABLE QString getObjectName();

@@ -6,6 +6,7 @@
 #include "baseDialogs/ProposedFileName_p.h"
 #include "platform/FolderDialog.h"
 #include "utilsDll/frame/Assertions.h"
+#include "utilsDll/frame/SharedConstants.h"
 
 #include <QtCore/QDir>
 
@@ -50,7 +51,7 @@ QString CNativeDialogs::getSaveFileName(QWidget *parent, const QString &caption,
 QString CNativeDialogs::getFileBrowserDirectory(QWidget *parent, bool withRawFiles, const QString &caption,
                                                 const QString &dir, QFlags<QFileDialog::Option> /*options*/)
 {
-    const QString patterns = withRawFiles ? imagePatterns() : QString(standardImagePatterns);
+    const QLatin1StringView patterns = withRawFiles ? imageAndRawFilter : imageFilter;
     ZyxPlatform::FolderQuestion question;
     question.owner = parent->winId();
     question.title = caption;

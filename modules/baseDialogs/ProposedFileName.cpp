@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "baseDialogs/ProposedFileName_p.h"
 
+#include "utilsDll/frame/SharedConstants.h"
+
 #include <QtCore/QFileInfo>
 
 namespace ZYX_zglv6 {
-
-constexpr QLatin1StringView standardImagePatterns("*.tiff *.tif *.jpeg *.jpg");
-constexpr QLatin1StringView rawImagePatterns("*.crw *.mrw *.arw *.raf *.pef *.orf *.ori *.rw2 *.rwl *.nrw *.srw *.cr2 "
-                                             "*.cr3 *.nef *.dng *.zyx *.3fr");
 
 namespace {
 
@@ -35,16 +33,11 @@ QString firstExtension(const QString &filter)
 
 } // namespace
 
-QString imagePatterns()
-{
-    return standardImagePatterns + u' ' + rawImagePatterns;
-}
-
 QString proposedFileName(const QString &name, const QString &filter)
 {
     const QString extension = extensionOf(name);
     // A part of a raw extension counts too, and so does none at all.
-    if (!rawImagePatterns.contains(extension, Qt::CaseInsensitive)) {
+    if (!rawFilter.contains(extension, Qt::CaseInsensitive)) {
         return name;
     }
     QString base = name;

@@ -6,12 +6,6 @@
 
 namespace ZYX_zglv6 {
 
-extern const QLatin1StringView standardImagePatterns;
-extern const QLatin1StringView rawImagePatterns;
-
-/*! The standard patterns, then the raw ones. */
-QString imagePatterns();
-
 /*!
     \a name with the first extension of \a filter, "Name (*.a *.b)", in the place of a raw one or of none. A name with
     any other extension comes back as it is.

@@ -7,8 +7,8 @@
 namespace ZyxPlatform {
 
 /*!
-    Makes \a window, a native id of this process's Qt windows, a child of \a parent, a native id of any process. With an
-    id that is no window it stays where it is.
+    Makes \a window, a native id of this process's Qt windows, a child of \a parent, a native id of any process. With a
+    parent that is no window it stays where it is, on Windows without its frame; there 0 is the desktop.
 */
 void makeChildWindow(quint64 window, quint64 parent);
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "baseDialogs/ProposedFileName_p.h"
+#include "utilsDll/frame/SharedConstants.h"
 
 #include <QtTest/QTest>
 
@@ -23,9 +24,9 @@ void tst_ProposedFileName::patterns_areTheLists()
     const QString standard = u"*.tiff *.tif *.jpeg *.jpg"_qs;
     const QString raw = u"*.crw *.mrw *.arw *.raf *.pef *.orf *.ori *.rw2 *.rwl *.nrw *.srw *.cr2 *.cr3 *.nef *.dng "
                         u"*.zyx *.3fr"_qs;
-    QCOMPARE(QString(standardImagePatterns), standard);
-    QCOMPARE(QString(rawImagePatterns), raw);
-    QCOMPARE(imagePatterns(), QString(standard + u' ' + raw));
+    QCOMPARE(QString(imageFilter), standard);
+    QCOMPARE(QString(rawFilter), raw);
+    QCOMPARE(QString(imageAndRawFilter), QString(standard + u' ' + raw));
 }
 
 void tst_ProposedFileName::proposedFileName_mendsTheExtension_data()

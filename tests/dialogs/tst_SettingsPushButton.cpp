@@ -359,6 +359,7 @@ void tst_SettingsPushButton::init_again_replacesTheText()
     row.init(u"first"_qs);
     row.init(u"second"_qs);
     QCOMPARE(row.labelText(), u"second"_qs);
+    QCOMPARE(row.findChild<QToolButton *>()->accessibleName(), u"second"_qs);
 }
 
 void tst_SettingsPushButton::adjustWidth_widensTheColumn_data()

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void tour_showsWhatCanBeDoneWithFiles();
     void tourOfANameThatIsNotValid_copiesUnderAnother();
     void tour_showsWhatAChoiceOfLanguageDoes();
+    void tour_showsTheDialogs();
     void chosenLanguage_staysForLaterStarts();
     void secondTour_findsThePanelAsTheFirstLeftIt();
     void tourWithAService_showsAnswerFaultAndRefusal();
@@ -240,6 +241,20 @@ void tst_Lightbox::tour_showsWhatAChoiceOfLanguageDoes()
         "help lies at https://[^/]+/en/redirect/gl6/help$"_qs);
     const QRegularExpressionMatch match = form.match(host.step(18));
     QVERIFY2(match.hasMatch() && match.captured(1) != u"English", qPrintable(host.step(18)));
+}
+
+void tst_Lightbox::tour_showsTheDialogs()
+{
+    const Run host = run({u"--tour"_qs});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    static const QRegularExpression form(u"^19 dialogs     zoom (\\d+) %, then (\\d+) %; about Zyx Grainlab 6, (\\d+) "
+                                         "letters of licences; 5 data files are missing$"_qs);
+    const QRegularExpressionMatch match = form.match(host.step(19));
+    QVERIFY2(match.hasMatch(), qPrintable(host.step(19)));
+    QVERIFY(match.captured(1).toInt() < match.captured(2).toInt());
+#ifndef Q_OS_WIN // where the installer's place is a key for all users, which the examples leave alone
+    QVERIFY2(match.captured(3).toInt() > 50'000, qPrintable(host.step(19)));
+#endif
 }
 
 void tst_Lightbox::chosenLanguage_staysForLaterStarts()

@@ -66,6 +66,7 @@ CSettingsPushButton::~CSettingsPushButton() = default;
 int CSettingsPushButton::init(const QString &text)
 {
     m_label->setText(text);
+    m_button->setAccessibleName(text);
     return qMin(m_label->fontMetrics().horizontalAdvance(text), labelWidth);
 }
 

@@ -31,8 +31,8 @@ public:
     ~CSettingsPushButton() override;
 
     /*!
-        Sets the caption. Returns its width in pixels, 118 at most, which is the column's width before adjustWidth(): a
-        wider caption is cut.
+        Sets the caption, which is also the button's name for a screen reader. Returns its width in pixels, 118 at most,
+        which is the column's width before adjustWidth(): a wider caption is cut.
     */
     int init(const QString &text);
 
