@@ -142,6 +142,9 @@ public:
 
     STDMETHODIMP Advise(IFileDialogEvents *events, DWORD *cookie) override
     {
+        if (m_fake->whenAdvised) {
+            m_fake->whenAdvised(events);
+        }
         if (FAILED(note(u"Advise"_qs))) {
             return E_FAIL;
         }
@@ -334,11 +337,10 @@ LRESULT CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 LRESULT CALLBACK ownButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == WM_LBUTTONUP) {
-        fakeOf(window)->buttonReleases.append(lParam);
-        return 7;
-    }
-    return DefWindowProcW(window, message, wParam, lParam);
+    FakeFileDialog *fake = fakeOf(window);
+    fake->buttonMessages.append({window, message, wParam, lParam});
+    const auto result = fake->buttonResults.constFind(message);
+    return result != fake->buttonResults.cend() ? *result : DefWindowProcW(window, message, wParam, lParam);
 }
 
 HWND makeWindow(FakeFileDialog *fake, HWND parent, WNDPROC procedure)
@@ -369,6 +371,20 @@ FakeFileDialog::~FakeFileDialog()
     m_factory->Release();
     CoUninitialize();
     DestroyWindow(window);
+}
+
+void FakeFileDialog::tell(const QString &change, IFileDialog *dialog, IFileDialogEvents *handler)
+{
+    hasSelection = change != u"failing selection";
+    const QString path = hasSelection ? change.section(u' ', 1) : QString();
+    const auto itemPath = path.isEmpty() ? std::optional<QString>() : path;
+    if (change.startsWith(u"folder")) {
+        folder = itemPath;
+        handler->OnFolderChange(dialog);
+        return;
+    }
+    selection = itemPath;
+    handler->OnSelectionChange(dialog);
 }
 
 } // namespace TestSupport

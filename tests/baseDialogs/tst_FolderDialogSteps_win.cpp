@@ -9,10 +9,13 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 
 using namespace ZYX_zglv6;
 using TestSupport::FakeFileDialog;
+using TestSupport::WindowMessage;
 
 namespace {
 
@@ -26,9 +29,23 @@ QString ask(QWidget &parent, bool withRawFiles, const QString &title, const QStr
     return Singleton<CNativeDialogs>::instance().getFileBrowserDirectory(&parent, withRawFiles, title, directory, {});
 }
 
+QString ask()
+{
+    QWidget parent;
+    return ask(parent, false, QString(), QString());
+}
+
 LRESULT releaseMouse(const FakeFileDialog &fake)
 {
     return SendMessageW(fake.button, WM_LBUTTONUP, 0, 12);
+}
+
+/*! Whether one of the process's heaps has \a block in use. */
+bool isAllocated(const void *block)
+{
+    std::array<HANDLE, 64> heaps{};
+    const auto end = heaps.begin() + std::min<DWORD>(GetProcessHeaps(DWORD(heaps.size()), heaps.data()), heaps.size());
+    return std::any_of(heaps.begin(), end, [block](HANDLE heap) { return HeapValidate(heap, 0, block) != FALSE; });
 }
 
 } // namespace
@@ -45,14 +62,15 @@ private Q_SLOTS:
     void failingStep_answersEmptyAndReleases();
     void failingFileTypes_areIgnored();
     void handler_answersItsInterfaces();
+    void handler_goesWithItsLastReference();
     void handler_answersItsEvents();
     void release_answers_data();
     void release_answers();
-    void release_beforeAnyPath_goesToTheButton();
+    void otherMessages_goToTheButton_data();
     void otherMessages_goToTheButton();
+    void release_onAnotherWindow_goesToTheButton();
     void button_isSubclassedOnce();
-    void button_isSubclassedByASelectionToo();
-    void selection_thatCantBeAskedFor_staysAsItWas();
+    void nextDialog_startsAnew_data();
     void nextDialog_startsAnew();
 
 private:
@@ -101,25 +119,32 @@ void tst_FolderDialogSteps_win::calls_areInOrder()
 void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases_data()
 {
     QTest::addColumn<QString>("step");
+    QTest::addColumn<bool>("hasHandler");
     QTest::addColumn<bool>("isAdvised");
-    QTest::newRow("CoCreateInstance") << u"CoCreateInstance"_qs << false;
-    QTest::newRow("Advise") << u"Advise"_qs << false;
-    QTest::newRow("SetOkButtonLabel") << u"SetOkButtonLabel"_qs << true;
-    QTest::newRow("SetTitle") << u"SetTitle"_qs << true;
-    QTest::newRow("SetFolder") << u"SetFolder"_qs << true;
-    QTest::newRow("GetOptions") << u"GetOptions"_qs << true;
-    QTest::newRow("SetOptions, first") << u"SetOptions1"_qs << true;
-    QTest::newRow("SetOptions, second") << u"SetOptions2"_qs << true;
+    QTest::newRow("CoCreateInstance") << u"CoCreateInstance"_qs << false << false;
+    QTest::newRow("Advise") << u"Advise"_qs << true << false;
+    QTest::newRow("SetOkButtonLabel") << u"SetOkButtonLabel"_qs << true << true;
+    QTest::newRow("SetTitle") << u"SetTitle"_qs << true << true;
+    QTest::newRow("SetFolder") << u"SetFolder"_qs << true << true;
+    QTest::newRow("GetOptions") << u"GetOptions"_qs << true << true;
+    QTest::newRow("SetOptions, first") << u"SetOptions1"_qs << true << true;
+    QTest::newRow("SetOptions, second") << u"SetOptions2"_qs << true << true;
 }
 
 void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases()
 {
     QFETCH(const QString, step);
+    QFETCH(const bool, hasHandler);
     QFETCH(const bool, isAdvised);
 
     QWidget parent;
     FakeFileDialog fake;
     fake.failing = step;
+    IFileDialogEvents *handler = nullptr;
+    fake.whenAdvised = [&handler](IFileDialogEvents *events) {
+        events->AddRef();
+        handler = events;
+    };
     bool isShown = false;
     fake.whileShown = [&isShown](IFileDialog *, IFileDialogEvents *) { isShown = true; };
     QCOMPARE(ask(parent, false, u"Batch"_qs, m_sandbox.filePath(QString())), QString());
@@ -127,6 +152,10 @@ void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases()
     QVERIFY(fake.calls.join(u'\n').contains(step));
     QCOMPARE(fake.calls.contains(u"Unadvise 4711"_qs), isAdvised);
     QCOMPARE(fake.objects, 0);
+    QCOMPARE(handler != nullptr, hasHandler);
+    if (hasHandler) {
+        QCOMPARE(handler->Release(), ULONG(0)); // the test's own was the last
+    }
 }
 
 void tst_FolderDialogSteps_win::failingFileTypes_areIgnored()
@@ -142,7 +171,6 @@ void tst_FolderDialogSteps_win::failingFileTypes_areIgnored()
 
 void tst_FolderDialogSteps_win::handler_answersItsInterfaces()
 {
-    QWidget parent;
     FakeFileDialog fake;
     HRESULT other = S_OK;
     int found = 0;
@@ -161,14 +189,29 @@ void tst_FolderDialogSteps_win::handler_answersItsInterfaces()
         QCOMPARE(references, ULONG(4));
         QCOMPARE(events->Release(), ULONG(3));
     };
-    ask(parent, false, QString(), QString());
+    ask();
     QCOMPARE(found, 2);
     QCOMPARE(other, HRESULT(E_NOINTERFACE));
 }
 
+void tst_FolderDialogSteps_win::handler_goesWithItsLastReference()
+{
+    FakeFileDialog fake;
+    IFileDialogEvents *handler = nullptr;
+    fake.whileShown = [&handler](IFileDialog *, IFileDialogEvents *events) {
+        events->AddRef();
+        handler = events;
+    };
+    ask();
+    QVERIFY(isAllocated(handler));
+    const ULONG references = handler->Release();
+    const bool isLeft = isAllocated(handler);
+    QCOMPARE(references, ULONG(0));
+    QVERIFY(!isLeft);
+}
+
 void tst_FolderDialogSteps_win::handler_answersItsEvents()
 {
-    QWidget parent;
     FakeFileDialog fake;
     fake.folder = u"C:\\photos"_qs;
     QList<HRESULT> answers;
@@ -186,81 +229,112 @@ void tst_FolderDialogSteps_win::handler_answersItsEvents()
         releaseMouse(fake);
         answers.append(events->OnFileOk(dialog));
     };
-    QCOMPARE(ask(parent, false, QString(), QString()), u"C:\\photos"_qs);
+    QCOMPARE(ask(), u"C:\\photos"_qs);
     QCOMPARE(answers, QList<HRESULT>({S_FALSE, S_OK, S_OK, S_OK, S_OK, S_OK, S_OK, S_FALSE, S_OK}));
 }
 
 void tst_FolderDialogSteps_win::release_answers_data()
 {
-    QTest::addColumn<std::optional<QString>>("folder");
-    QTest::addColumn<std::optional<QString>>("selection");
-    QTest::addColumn<QString>("answer");
-    using Path = std::optional<QString>;
-    QTest::newRow("folder") << Path(u"C:\\p"_qs) << Path() << u"C:\\p"_qs;
-    QTest::newRow("selection") << Path() << Path(u"C:\\p\\a.nef"_qs) << u"C:\\p\\a.nef"_qs;
-    QTest::newRow("both: the selection") << Path(u"C:\\p"_qs) << Path(u"C:\\p\\\u00fc.nef"_qs)
-                                         << u"C:\\p\\\u00fc.nef"_qs;
+    QTest::addColumn<QStringList>("changes");
+    QTest::addColumn<QString>("answer"); // none: the button's own procedure gets the release
+    const QString folder = u"folder C:\\p"_qs;
+    const QString file = u"selection C:\\p\\\u00fc.nef"_qs;
+    const QString noFolder = u"folder"_qs; // a place without a path
+    const QString noFile = u"selection"_qs;
+    const QString answer = u"C:\\p\\\u00fc.nef"_qs;
+    QTest::newRow("folder") << QStringList{folder} << u"C:\\p"_qs;
+    QTest::newRow("folder, then thing without path") << QStringList{folder, noFile} << u"C:\\p"_qs;
+    QTest::newRow("selection alone") << QStringList{file} << answer;
+    QTest::newRow("selection in place without path") << QStringList{noFolder, file} << answer;
+    QTest::newRow("both: the selection") << QStringList{folder, file} << answer;
+    QTest::newRow("both, the folder last") << QStringList{file, folder} << answer;
+    QTest::newRow("selection that can't be asked for: as it was")
+        << QStringList{folder, file, u"failing selection"_qs} << answer;
+    QTest::newRow("no path") << QStringList{noFolder} << QString();
+    QTest::newRow("two without path") << QStringList{noFolder, noFile} << QString();
+    QTest::newRow("folder's path gone") << QStringList{folder, noFolder} << QString();
+    QTest::newRow("selection's path gone") << QStringList{file, noFile} << QString();
+    QTest::newRow("selection's path gone: the folder") << QStringList{folder, file, noFile} << u"C:\\p"_qs;
 }
 
 void tst_FolderDialogSteps_win::release_answers()
 {
-    QFETCH(const std::optional<QString>, folder);
-    QFETCH(const std::optional<QString>, selection);
+    QFETCH(const QStringList, changes);
     QFETCH(const QString, answer);
 
-    QWidget parent;
-    FakeFileDialog fake;
-    fake.folder = folder;
-    fake.selection = selection;
-    LRESULT result = -1;
-    fake.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
-        events->OnFolderChange(dialog);
-        events->OnSelectionChange(dialog);
-        result = releaseMouse(fake);
-    };
-    QCOMPARE(ask(parent, false, QString(), QString()), answer);
-    QCOMPARE(result, LRESULT(0));
-    QVERIFY(fake.isClosed);
-    QVERIFY(fake.buttonReleases.isEmpty());
-    QCOMPARE(fake.objects, 0);
-}
-
-void tst_FolderDialogSteps_win::release_beforeAnyPath_goesToTheButton()
-{
-    QWidget parent;
     FakeFileDialog fake;
     LRESULT result = -1;
-    HRESULT fileOk = S_OK;
+    HRESULT fileOk = E_FAIL;
     fake.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
-        events->OnFolderChange(dialog); // a place without a path
+        for (const QString &change : changes) {
+            fake.tell(change, dialog, events);
+        }
         result = releaseMouse(fake);
         fileOk = events->OnFileOk(dialog);
     };
-    QCOMPARE(ask(parent, false, QString(), QString()), QString());
-    QCOMPARE(result, LRESULT(7));
-    QCOMPARE(fake.buttonReleases, QList<LPARAM>{12});
-    QVERIFY(!fake.isClosed);
-    QCOMPARE(fileOk, S_FALSE);
+    QCOMPARE(ask(), answer);
+    const bool isAccepted = !answer.isEmpty();
+    const QList<WindowMessage> passedOn{{fake.button, WM_LBUTTONUP, 0, 12}};
+    QCOMPARE(result, LRESULT(isAccepted ? 0 : 7));
+    QCOMPARE(fake.buttonMessages, isAccepted ? QList<WindowMessage>() : passedOn);
+    QCOMPARE(fake.isClosed, isAccepted);
+    QCOMPARE(fileOk, isAccepted ? S_OK : S_FALSE);
+    QCOMPARE(fake.objects, 0);
+}
+
+void tst_FolderDialogSteps_win::otherMessages_goToTheButton_data()
+{
+    QTest::addColumn<uint>("message");
+    QTest::newRow("mouse press") << uint(WM_LBUTTONDOWN);
+    QTest::newRow("double click") << uint(WM_LBUTTONDBLCLK);
+    QTest::newRow("mouse move") << uint(WM_MOUSEMOVE);
+    QTest::newRow("release of the right button") << uint(WM_RBUTTONUP);
+    QTest::newRow("release beside the client area") << uint(WM_NCLBUTTONUP);
+    QTest::newRow("key press") << uint(WM_KEYDOWN);
+    QTest::newRow("key release") << uint(WM_KEYUP);
+    QTest::newRow("character") << uint(WM_CHAR);
+    QTest::newRow("click by program") << uint(BM_CLICK);
+    QTest::newRow("command") << uint(WM_COMMAND);
+    QTest::newRow("focus") << uint(WM_SETFOCUS);
+    QTest::newRow("close") << uint(WM_CLOSE);
+    QTest::newRow("a message of its own") << uint(WM_USER);
 }
 
 void tst_FolderDialogSteps_win::otherMessages_goToTheButton()
 {
-    QWidget parent;
+    QFETCH(const uint, message);
+
     FakeFileDialog fake;
     fake.folder = u"C:\\p"_qs;
+    fake.buttonResults.insert(message, 8);
+    LRESULT result = -1;
     fake.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
         events->OnFolderChange(dialog);
-        for (const UINT message : {UINT(WM_LBUTTONDOWN), UINT(WM_KEYDOWN), UINT(WM_KEYUP), UINT(WM_RBUTTONUP)}) {
-            SendMessageW(fake.button, message, VK_RETURN, 0);
-        }
+        result = SendMessageW(fake.button, message, VK_RETURN, 12);
+        QCOMPARE(fake.buttonMessages, QList<WindowMessage>({{fake.button, message, VK_RETURN, 12}}));
     };
-    QCOMPARE(ask(parent, false, QString(), QString()), QString());
+    QCOMPARE(ask(), QString());
+    QCOMPARE(result, LRESULT(8));
     QVERIFY(!fake.isClosed);
+}
+
+void tst_FolderDialogSteps_win::release_onAnotherWindow_goesToTheButton()
+{
+    FakeFileDialog fake;
+    fake.folder = u"C:\\p"_qs;
+    LRESULT result = -1;
+    fake.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
+        events->OnFolderChange(dialog);
+        const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(fake.button, GWLP_WNDPROC));
+        result = CallWindowProcW(procedure, fake.window, WM_LBUTTONUP, 0, 12);
+    };
+    QCOMPARE(ask(), QString());
+    QCOMPARE(result, LRESULT(7));
+    QCOMPARE(fake.buttonMessages, QList<WindowMessage>({{fake.window, WM_LBUTTONUP, 0, 12}}));
 }
 
 void tst_FolderDialogSteps_win::button_isSubclassedOnce()
 {
-    QWidget parent;
     FakeFileDialog fake;
     const LONG_PTR before = GetWindowLongPtrW(fake.button, GWLP_WNDPROC);
     LONG_PTR first = 0;
@@ -273,64 +347,53 @@ void tst_FolderDialogSteps_win::button_isSubclassedOnce()
         second = GetWindowLongPtrW(fake.button, GWLP_WNDPROC);
         releaseMouse(fake); // a button subclassed twice would call itself for ever
     };
-    ask(parent, false, QString(), QString());
+    ask();
     QVERIFY(first != before);
     QCOMPARE(second, first);
     QCOMPARE(fake.calls.count(u"GetWindow"_qs), 1);
 }
 
-void tst_FolderDialogSteps_win::button_isSubclassedByASelectionToo()
+void tst_FolderDialogSteps_win::nextDialog_startsAnew_data()
 {
-    QWidget parent;
-    FakeFileDialog fake;
-    fake.selection = u"C:\\a.nef"_qs;
-    fake.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
-        events->OnSelectionChange(dialog);
-        releaseMouse(fake);
-    };
-    QCOMPARE(ask(parent, false, QString(), QString()), u"C:\\a.nef"_qs);
-}
-
-void tst_FolderDialogSteps_win::selection_thatCantBeAskedFor_staysAsItWas()
-{
-    QWidget parent;
-    FakeFileDialog fake;
-    fake.folder = u"C:\\p"_qs;
-    fake.selection = u"C:\\p\\a.nef"_qs;
-    fake.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
-        events->OnFolderChange(dialog);
-        events->OnSelectionChange(dialog);
-        fake.hasSelection = false;
-        events->OnSelectionChange(dialog);
-        releaseMouse(fake);
-    };
-    QCOMPARE(ask(parent, false, QString(), QString()), u"C:\\p\\a.nef"_qs);
+    QTest::addColumn<bool>("isAccepted");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("answer");
+    for (const bool isAccepted : {true, false}) {
+        const char *former = isAccepted ? "accepted" : "closed";
+        QTest::addRow("%s, then a folder", former) << isAccepted << u"folder C:\\q"_qs << u"C:\\q"_qs;
+        QTest::addRow("%s, then a folder without path", former) << isAccepted << u"folder"_qs << QString();
+        QTest::addRow("%s, then a selection without path", former) << isAccepted << u"selection"_qs << QString();
+    }
 }
 
 void tst_FolderDialogSteps_win::nextDialog_startsAnew()
 {
-    QWidget parent;
-    for (int round = 0; round < 2; ++round) {
-        auto fake = std::make_unique<FakeFileDialog>();
-        fake->folder = u"C:\\p"_qs;
-        fake->selection = u"C:\\p\\a.nef"_qs;
-        fake->whileShown = [&fake](IFileDialog *dialog, IFileDialogEvents *events) {
-            QCOMPARE(events->OnFileOk(dialog), S_FALSE);
-            events->OnFolderChange(dialog);
-            events->OnSelectionChange(dialog);
-            releaseMouse(*fake);
-        };
-        QCOMPARE(ask(parent, false, QString(), QString()), u"C:\\p\\a.nef"_qs);
-        fake.reset();
+    QFETCH(const bool, isAccepted);
+    QFETCH(const QString, change);
+    QFETCH(const QString, answer);
 
-        FakeFileDialog next;
-        next.folder = u"C:\\q"_qs;
-        next.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
-            events->OnFolderChange(dialog);
-            releaseMouse(next);
-        };
-        QCOMPARE(ask(parent, false, QString(), QString()), u"C:\\q"_qs); // nothing of the last one's selection
-    }
+    auto former = std::make_unique<FakeFileDialog>();
+    former->whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
+        former->tell(u"folder C:\\p"_qs, dialog, events);
+        former->tell(u"selection C:\\p\\a.nef"_qs, dialog, events);
+        if (isAccepted) {
+            releaseMouse(*former);
+        }
+    };
+    QCOMPARE(ask(), isAccepted ? u"C:\\p\\a.nef"_qs : QString());
+    former.reset();
+
+    FakeFileDialog next;
+    HRESULT fileOk = E_FAIL;
+    next.whileShown = [&](IFileDialog *dialog, IFileDialogEvents *events) {
+        fileOk = events->OnFileOk(dialog);
+        next.tell(change, dialog, events);
+        releaseMouse(next);
+    };
+    QCOMPARE(ask(), answer);
+    QCOMPARE(fileOk, S_FALSE);
+    QCOMPARE(next.isClosed, !answer.isEmpty());
+    QCOMPARE(next.buttonMessages.size(), answer.isEmpty() ? 1 : 0);
 }
 
 QTEST_MAIN(tst_FolderDialogSteps_win)

@@ -10,6 +10,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QWidget>
 
+#include <array>
 #include <commctrl.h>
 #include <windows.h>
 
