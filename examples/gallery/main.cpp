@@ -134,6 +134,7 @@ int main(int argc, char *argv[])
 
     const QTemporaryDir folder;
     useOwnStore(folder.path());
+    noteInstallation();
     CTemporarySettings settings{QDir(folder.path())}; // the language of this run is no choice for others
     CSettings::setTemporarySettings(settings);
     putOnLook(options.language);
