@@ -41,9 +41,8 @@ const QString &CStorageLocation::dopGPAPath(bool check)
     static const QString path = besideExecutable(QLatin1StringView("dop.gpa"));
     ZYX_LOG('D', u"Grain data path: "_qs + path);
     if (check && !isReadable(path)) {
-        const QString message = u"Error opening dop.gpa file at path: "_qs + path;
-        ZYX_LOG('E', message);
-        warnUser(message);
+        ZYX_DECLARE_FUNCTION_NAME(function);
+        warnUser(function.data(), u"Error opening dop.gpa file at path: "_qs + path);
     }
     return path;
 }
@@ -53,9 +52,8 @@ const QString &CStorageLocation::featureTogglePath(bool check)
     static const QString path = besideExecutable(QLatin1StringView("ZL5.lua"));
     ZYX_LOG('D', u"Feature Toggle file path: "_qs + path);
     if (check && !isReadable(path)) {
-        const QString message = u"Error opening ZL5.lua file at path: "_qs + path;
-        ZYX_LOG('E', message);
-        warnUser(message);
+        ZYX_DECLARE_FUNCTION_NAME(function);
+        warnUser(function.data(), u"Error opening ZL5.lua file at path: "_qs + path);
     }
     return path;
 }
@@ -65,9 +63,8 @@ QString CStorageLocation::framePackPath(bool check)
     static const QString path = inResources(QLatin1StringView("Frames.lua"));
     ZYX_LOG('D', u"Frames data path: "_qs + path);
     if (check && !isReadable(path)) {
-        const QString message = u"Error opening Frames.lua file at path: "_qs + path;
-        ZYX_LOG('E', message);
-        warnUser(message);
+        ZYX_DECLARE_FUNCTION_NAME(function);
+        warnUser(function.data(), u"Error opening Frames.lua file at path: "_qs + path);
     }
     return path;
 }
@@ -77,9 +74,8 @@ QString CStorageLocation::texturesPackPath(bool check)
     static const QString path = inResources(QLatin1StringView("Textures.lua"));
     ZYX_LOG('D', u"Textures data path: "_qs + path);
     if (check && !isReadable(path)) {
-        const QString message = u"Error opening Textures.lua file at path: "_qs + path;
-        ZYX_LOG('E', message);
-        warnUser(message);
+        ZYX_DECLARE_FUNCTION_NAME(function);
+        warnUser(function.data(), u"Error opening Textures.lua file at path: "_qs + path);
     }
     return path;
 }
@@ -89,15 +85,17 @@ QString CStorageLocation::defectsPackPath()
     static const QString path = inResources(QLatin1StringView("Defects.lua"));
     ZYX_LOG('D', u"Defects data path: "_qs + path);
     if (!canBeOpened(path)) {
-        const QString message = u"Error opening Defects.lua file at path: "_qs + path;
-        ZYX_LOG('E', message);
-        warnUser(message);
+        ZYX_DECLARE_FUNCTION_NAME(function);
+        warnUser(function.data(), u"Error opening Defects.lua file at path: "_qs + path);
     }
     return path;
 }
 
-void CStorageLocation::warnUser(const QString &message)
+void CStorageLocation::warnUser(const char *function, const QString &message)
 {
+    if (const ILoggerInterface *logger = loggerInstance()) {
+        writeLogLine(*logger, 'E', function, message);
+    }
     CMessageBox::messageHelper(nullptr, QObject::tr("Warning"), message, QMessageBox::Ok, QMessageBox::NoButton,
                                QMessageBox::Warning);
 }

@@ -105,7 +105,7 @@ public:
     static QString defectsPackPath();
 
 private:
-    static void warnUser(const QString &message);
+    static void warnUser(const char *function, const QString &message);
 };
 
 } // namespace ZYX_zglv6

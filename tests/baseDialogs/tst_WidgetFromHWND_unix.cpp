@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "support/XServer_unix.h"
+
 #include "baseDialogs/WidgetFromHWND.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QScopeGuard>
-#include <QtCore/QStandardPaths>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
@@ -229,24 +229,9 @@ void tst_WidgetFromHWND_unix::invalidParent_isNoCrash()
 
 int main(int argc, char *argv[])
 {
-    QProcess server;
-    const auto isMissing = [](const QString &program) { return QStandardPaths::findExecutable(program).isEmpty(); };
-    if (!isMissing(u"Xvfb"_qs) && !isMissing(u"xwininfo"_qs) && !isMissing(u"xev"_qs)) {
-        server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        server.start(u"Xvfb"_qs, {u"-displayfd"_qs, u"1"_qs, u"-nolisten"_qs, u"tcp"_qs}, QIODevice::ReadOnly);
-        QByteArray number;
-        while (!number.endsWith('\n') && server.waitForReadyRead(serverTimeMs)) {
-            number += server.readAllStandardOutput();
-        }
-        qputenv("DISPLAY", ':' + number.trimmed());
-    }
-    const auto end = qScopeGuard([&server] {
-        server.terminate();
-        server.waitForFinished(serverTimeMs);
-    });
-    if (server.state() != QProcess::Running) {
-        qWarning("Xvfb, xwininfo or xev is missing");
-        return 77;
+    const TestSupport::XServer server({u"xwininfo"_qs, u"xev"_qs});
+    if (!server.isRunning()) {
+        return TestSupport::skipped;
     }
     const QApplication application(argc, argv);
     tst_WidgetFromHWND_unix test;

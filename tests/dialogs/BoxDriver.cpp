@@ -98,6 +98,14 @@ void BoxDriver::onNext(const Reaction &reaction)
     m_reactions.append(reaction);
 }
 
+void BoxDriver::lookAtNext(const Reaction &look)
+{
+    onNext([look](QMessageBox &box) {
+        look(box);
+        box.close();
+    });
+}
+
 void BoxDriver::clickNext(const QString &buttonText)
 {
     onNext([this, buttonText](QMessageBox &box) {

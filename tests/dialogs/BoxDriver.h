@@ -45,6 +45,8 @@ public:
     bool eventFilter(QObject *object, QEvent *event) override;
 
     void onNext(const Reaction &reaction);
+    /*! Closes the next box after the look. */
+    void lookAtNext(const Reaction &look);
     /*! Notes the facts of the next box and clicks that button with the mouse. */
     void clickNext(const QString &buttonText);
     /*! Notes the facts of the next box and closes it by its close button. */

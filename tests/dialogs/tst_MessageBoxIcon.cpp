@@ -158,10 +158,7 @@ void tst_MessageBoxIcon::cleanup()
 void tst_MessageBoxIcon::look(QWidget *parent, const QString &text, const std::function<void(QMessageBox &)> &check,
                               bool showIcon)
 {
-    m_driver.onNext([check](QMessageBox &box) {
-        check(box);
-        box.close();
-    });
+    m_driver.lookAtNext(check);
     show(parent, text, showIcon);
 }
 

@@ -86,10 +86,7 @@ void tst_MessageBoxLook::cleanup()
 void tst_MessageBoxLook::look(QWidget *parent, const QString &text, const std::function<void(QMessageBox &)> &check,
                               bool showIcon)
 {
-    m_driver.onNext([check](QMessageBox &box) {
-        check(box);
-        box.close();
-    });
+    m_driver.lookAtNext(check);
     show(parent, text, showIcon);
 }
 

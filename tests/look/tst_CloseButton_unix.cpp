@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "support/XServer_unix.h"
+
 #include "utilsDll/look/GuiUtils.h"
 
 #include <QtCore/QProcess>
-#include <QtCore/QScopeGuard>
-#include <QtCore/QStandardPaths>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -76,24 +76,9 @@ void tst_CloseButton_unix::unknownWindow_isLeftAlone()
 
 int main(int argc, char *argv[])
 {
-    QProcess server;
-    if (!QStandardPaths::findExecutable(u"Xvfb"_qs).isEmpty()
-        && !QStandardPaths::findExecutable(u"xprop"_qs).isEmpty()) {
-        server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        server.start(u"Xvfb"_qs, {u"-displayfd"_qs, u"1"_qs, u"-nolisten"_qs, u"tcp"_qs}, QIODevice::ReadOnly);
-        QByteArray number;
-        while (!number.endsWith('\n') && server.waitForReadyRead(serverTimeMs)) {
-            number += server.readAllStandardOutput();
-        }
-        qputenv("DISPLAY", ':' + number.trimmed());
-    }
-    const auto end = qScopeGuard([&server] {
-        server.terminate();
-        server.waitForFinished(serverTimeMs);
-    });
-    if (server.state() != QProcess::Running) {
-        qWarning("Xvfb or xprop is missing");
-        return 77;
+    const TestSupport::XServer server({u"xprop"_qs});
+    if (!server.isRunning()) {
+        return TestSupport::skipped;
     }
     const QApplication application(argc, argv);
     tst_CloseButton_unix test;
