@@ -15,9 +15,10 @@ class AboutForm;
     The about box: a panel without a frame, with a page on the product and one with the licences of others, which a link
     on the first one opens. It has the look of its parent's sheets; without a parent, set the sheets on it.
 
-    The licences are the ".txt" files in the folder "Licenses" of the product's installation. They are read when their
-    page is first shown; without them it is empty. Texts are in the language that the program runs in when the dialog is
-    made. Main thread only.
+    The licences are the ".txt" files in the folder "Licenses" of the product's installation. They are read once, when
+    their page is first shown; without such files it has the acknowledgement alone. Without the folder it is empty, and
+    each visit looks again. Texts are in the language that the program runs in when the dialog is made. Main thread
+    only.
 */
 class UTILSDLL_EXPORT CAboutDlg : public CBaseDialog
 {

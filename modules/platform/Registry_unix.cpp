@@ -14,7 +14,7 @@ std::unique_ptr<QSettings> openIdentityStore()
 
 std::unique_ptr<QSettings> openMachineStore(const QString &organization, const QString &application)
 {
-    // Fallbacks stay on, without them only the first folder of XDG_CONFIG_DIRS counts. Given as an organisation's, the
+    // Fallbacks stay on: without them only the first folder of XDG_CONFIG_DIRS counts. Given as an organisation's, the
     // file is the only one in each folder: one key, as where there is a registry.
     return std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::SystemScope,
                                        organization + u'/' + application);

@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>This product uses copyrighted material of others, among it the Qt libraries, log4cplus, zlib and Minizip, the Roboto, Open Sans and Maven Pro fonts, Tabler Icons, and calibration data derived from the Lensfun database. It remains the property of its authors and is used under the licenses that follow.%1Names of film products are trademarks of their respective owners. They only describe the look that a simulation comes close to; their owners have no part in this product.%1</source>
-        <translation>本製品には、Qt ライブラリ、log4cplus、zlib および Minizip、フォント Roboto、Open Sans、Maven Pro、Tabler Icons、Lensfun データベースから派生したキャリブレーションデータなど、第三者の著作物が使用されています。これらの権利は各著作者に帰属し、以下のライセンスに基づいて使用されています。%1フィルム製品の名称は、各所有者の商標です。これらの名称は、シミュレーションが近づけている風合いを説明するためにのみ使用しています。各所有者は本製品に関与していません。%1</translation>
+        <translation>本製品には、Qt ライブラリ、log4cplus、zlib および Minizip、フォント Roboto、Open Sans、Maven Pro、Tabler Icons、Lensfun データベースから派生したキャリブレーションデータなど、第三者の著作物が使用されています。これらの著作権は各著作者に帰属し、各著作物は以下のライセンスに基づいて使用されています。%1フィルム製品の名称は、各所有者の商標です。これらの名称は、シミュレーションが近づけている風合いを説明するためにのみ使用しています。各所有者は本製品に関与していません。%1</translation>
     </message>
 </context>
 </TS>

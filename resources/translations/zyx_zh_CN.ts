@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>This product uses copyrighted material of others, among it the Qt libraries, log4cplus, zlib and Minizip, the Roboto, Open Sans and Maven Pro fonts, Tabler Icons, and calibration data derived from the Lensfun database. It remains the property of its authors and is used under the licenses that follow.%1Names of film products are trademarks of their respective owners. They only describe the look that a simulation comes close to; their owners have no part in this product.%1</source>
-        <translation>本产品使用了第三方享有著作权的材料，包括 Qt 库、log4cplus、zlib 和 Minizip，Roboto、Open Sans 和 Maven Pro 字体，Tabler Icons，以及源自 Lensfun 数据库的校准数据。这些材料的权利归其作者所有，并依照下列许可证使用。%1胶片产品名称是其各自所有者的商标。此处仅用于说明模拟效果所接近的质感；这些所有者与本产品无关。%1</translation>
+        <translation>本产品使用了第三方享有著作权的材料，包括 Qt 库、log4cplus、zlib 和 Minizip，Roboto、Open Sans 和 Maven Pro 字体，Tabler Icons，以及源自 Lensfun 数据库的校准数据。这些材料的权利归其作者所有，本产品依照下列许可证使用这些材料。%1胶片产品名称是其各自所有者的商标。此处仅用于说明模拟效果所接近的质感；这些所有者与本产品无关。%1</translation>
     </message>
 </context>
 </TS>

@@ -3,8 +3,10 @@
 #include "aboutDlg/AboutBox.h"
 #include "support/VirtualSlot.h"
 
+#include "uiControls/RetinaToolButton.h"
+
 #include <QtGui/QAccessible>
-#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
 
 using namespace ZYX_zglv6;
 
@@ -20,6 +22,26 @@ public:
     using CAboutDlg::eventFilter;
 };
 
+/*! Notes the events of itself that it is asked about. */
+class WatchedAboutDlg : public CAboutDlg
+{
+    Q_OBJECT
+
+public:
+    QList<QEvent::Type> ownEvents;
+
+    using CAboutDlg::CAboutDlg;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == this) {
+            ownEvents += event->type();
+        }
+        return CAboutDlg::eventFilter(watched, event);
+    }
+};
+
 class OpenedBaseDialog : public CBaseDialog
 {
     Q_OBJECT
@@ -27,6 +49,16 @@ class OpenedBaseDialog : public CBaseDialog
 public:
     using CBaseDialog::eventFilter;
 };
+
+QImage imageOf(const QIcon &icon)
+{
+    return icon.pixmap(27).toImage();
+}
+
+QImage imageOfFile(const QString &name)
+{
+    return imageOf(QIcon(u":/icons/arrows/"_qs + name));
+}
 
 } // namespace
 
@@ -42,6 +74,7 @@ private Q_SLOTS:
     void myExec_ofAModalDialog_isNotModalAnyMore();
     void show_again_keepsThePlace();
     void eventFilter_letsAllThrough();
+    void eventFilter_isAskedAboutTheDialogItself();
     void virtualOperations_standInTheirOrder();
     void slots_canBeCalledByName();
 
@@ -54,6 +87,7 @@ private Q_SLOTS:
     void onLinkClicked_tellsAddressesFromTheLastSentence_data();
     void onLinkClicked_tellsAddressesFromTheLastSentence();
     void backButton_isMadeAsDesigned();
+    void backButton_hasAnImageForEachLook();
     void controls_haveNamesAndRoles();
     void images_areDecorative();
 
@@ -124,6 +158,15 @@ void tst_AboutDlg::eventFilter_letsAllThrough()
     OpenedAboutDlg dialog(nullptr, {});
     QEvent event(QEvent::User);
     QVERIFY(!dialog.eventFilter(&dialog, &event));
+}
+
+void tst_AboutDlg::eventFilter_isAskedAboutTheDialogItself()
+{
+    WatchedAboutDlg dialog(nullptr, {});
+    dialog.ownEvents.clear();
+    QEvent event(QEvent::User);
+    QApplication::sendEvent(&dialog, &event);
+    QCOMPARE(dialog.ownEvents, QList<QEvent::Type>{QEvent::User});
 }
 
 void tst_AboutDlg::virtualOperations_standInTheirOrder()
@@ -244,9 +287,25 @@ void tst_AboutDlg::backButton_isMadeAsDesigned()
     QCOMPARE(button.minimumSize(), QSize(27, 27));
     QCOMPARE(button.maximumSize(), QSize(27, 27));
     QCOMPARE(button.iconSize(), QSize(44, 44));
-    QCOMPARE(button.icon().pixmap(27).toImage(),
-             QIcon(u":/icons/arrows/left-icon-default.svg"_qs).pixmap(27).toImage());
-    QVERIFY(!button.icon().pixmap(27).toImage().isNull());
+}
+
+void tst_AboutDlg::backButton_hasAnImageForEachLook()
+{
+    const QImage normal = imageOfFile(u"left-icon-default.svg"_qs);
+    const QImage hovered = imageOfFile(u"left-icon-hover.svg"_qs);
+    const QImage pressed = imageOfFile(u"left-icon-onpressed.svg"_qs);
+    QVERIFY(!normal.isNull() && !hovered.isNull() && !pressed.isNull());
+    QVERIFY(normal != hovered && normal != pressed && hovered != pressed);
+
+    const CAboutDlg dialog(nullptr, {});
+    auto *button = qobject_cast<CRetinaToolButton *>(&AboutBox::backButton(dialog));
+    QVERIFY(button);
+    QCOMPARE(imageOf(button->icon()), normal);
+    QEvent enter(QEvent::Enter);
+    button->enterEvent(&enter);
+    QCOMPARE(imageOf(button->icon()), hovered);
+    button->setPressState(true);
+    QCOMPARE(imageOf(button->icon()), pressed);
 }
 
 void tst_AboutDlg::controls_haveNamesAndRoles()

@@ -3,7 +3,9 @@
 #include "aboutDlg/AboutBox.h"
 
 #include <QtCore/QMetaEnum>
+#include <QtCore/QScopeGuard>
 #include <QtSvgWidgets/QSvgWidget>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QBoxLayout>
 
 using namespace ZYX_zglv6;
@@ -226,12 +228,17 @@ void tst_AboutForm::frame_isNotDrawn()
 
 void tst_AboutForm::versionBesideTheLogo_isSetAsDesigned()
 {
+    const auto restore = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+    QFont inherited;
+    inherited.setStyleStrategy(QFont::NoAntialias);
+    QApplication::setFont(inherited);
     const CAboutDlg dialog(nullptr, {});
+    QCOMPARE(AboutBox::label(dialog, u"sloganLabel"_qs).font().styleStrategy(), QFont::NoAntialias);
     const QLabel &label = AboutBox::label(dialog, u"logoVersionLabel"_qs);
     QCOMPARE(label.lineWidth(), 0);
     QCOMPARE(label.alignment(), Qt::AlignLeft | Qt::AlignBottom);
     QCOMPARE(label.indent(), 0);
-    QCOMPARE(label.font().styleStrategy(), QFont::PreferDefault);
+    QCOMPARE(label.font().styleStrategy(), QFont::PreferDefault); // its own
 }
 
 void tst_AboutForm::labels_takeLinks_data()

@@ -3,7 +3,6 @@
 #include "aboutDlg/AboutBox.h"
 
 #include <QtGui/QMouseEvent>
-#include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 
 using namespace ZYX_zglv6;

@@ -1,6 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "aboutDlg/AboutBox.h"
+#include "support/FreshProcess.h"
+
+#include "utilsDll/frame/ProductData_p.h"
+#include "utilsDll/frame/SharedConstants.h"
+#include "utilsDll/look/LanguageManager.h"
+#include "utilsDll/settings/Settings.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QAccessible>
@@ -24,6 +30,29 @@ constexpr char legalFormOfTheSource[]
       "<br>Parts of it may be covered by patents: see <a href=\"%2\">patents and notices</a>.<br><br>"
       "<a href=\"%1\">Read the licenses of the third-party software in this product.</a>";
 
+/*! A language with one place more in its legal line. */
+class WordyLanguage : public QTranslator
+{
+    Q_OBJECT
+
+public:
+    QString translate(const char *context, const char *source, const char * /*remark*/, int /*count*/) const override
+    {
+        const bool isLegalForm = qstrcmp(context, "aboutDlg") == 0 && qstrcmp(source, legalFormOfTheSource) == 0;
+        return isLegalForm ? u"%1 and %2,%3 and %1."_qs : QString();
+    }
+
+    bool isEmpty() const override
+    {
+        return false;
+    }
+};
+
+QString addressOf(const QString &page)
+{
+    return u"https://"_qs + QStringLiteral(ZYX_WEB_HOST) + u'/' + page;
+}
+
 } // namespace
 
 class tst_AboutTexts : public QObject
@@ -34,10 +63,14 @@ private Q_SLOTS:
     void texts_ofALanguage_areItsOwn_data();
     void texts_ofALanguage_areItsOwn();
     void texts_withoutLanguage_areEnglish();
+    void version_isThatOfTheLibrary();
     void legalForm_ofALanguage_keepsItsPlacesAndLinks_data();
     void legalForm_ofALanguage_keepsItsPlacesAndLinks();
     void legalLine_ofALanguage_namesProductAndAddresses_data();
     void legalLine_ofALanguage_namesProductAndAddresses();
+    void legalLine_withAThirdPlace_leavesItEmpty();
+    void addresses_areInTheLoadedLanguage_data();
+    void addresses_areInTheLoadedLanguage();
     void labels_ofALanguage_areSpokenAsPlainText_data();
     void labels_ofALanguage_areSpokenAsPlainText();
     void webSite_isALinkToTheHomePage();
@@ -91,6 +124,16 @@ void tst_AboutTexts::texts_withoutLanguage_areEnglish()
     QCOMPARE(AboutBox::description(dialog).accessibleName(), u"Licenses"_qs);
 }
 
+void tst_AboutTexts::version_isThatOfTheLibrary()
+{
+    const CAboutDlg dialog(nullptr, {});
+    const QStringList numbers = QString(libraryVersion()).split(u'.');
+    QCOMPARE(numbers.size(), 4);
+    QCOMPARE(AboutBox::label(dialog, u"logoVersionLabel"_qs).text(), numbers[0]);
+    QCOMPARE(AboutBox::label(dialog, u"versionLabel"_qs).text(),
+             u"Version %1 / Build %2 / 64 bits"_qs.arg(numbers.first(3).join(u'.'), numbers[3]));
+}
+
 void tst_AboutTexts::legalForm_ofALanguage_keepsItsPlacesAndLinks_data()
 {
     addLanguageRows();
@@ -123,11 +166,46 @@ void tst_AboutTexts::legalLine_ofALanguage_namesProductAndAddresses()
     const CAboutDlg dialog(nullptr, {});
     const QString line = AboutBox::label(dialog, u"copyrightTextLabel"_qs).text();
     QVERIFY2(line.startsWith(linkStyle + u"Zyx Grainlab "), qPrintable(line));
-    const QString patents
-        = u"<a href=\"https://"_qs + QStringLiteral(ZYX_WEB_HOST) + u"/intl/redirect/gl/patents\">"_qs;
-    QVERIFY2(line.contains(patents), qPrintable(line));
+    const QString patents = addressOf(u"intl/redirect/gl/patents"_qs);
+    QVERIFY2(line.contains(u"<a href=\""_qs + patents + u"\">"_qs), qPrintable(line));
     QVERIFY2(line.contains(u"<br><br><a href=\"Zyx Grainlab\">"), qPrintable(line));
     QVERIFY2(!line.contains(u'%'), qPrintable(line));
+}
+
+void tst_AboutTexts::legalLine_withAThirdPlace_leavesItEmpty()
+{
+    WordyLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    const CAboutDlg dialog(nullptr, {});
+    QCOMPARE(AboutBox::label(dialog, u"copyrightTextLabel"_qs).text(),
+             linkStyle + u"Zyx Grainlab and "_qs + addressOf(u"intl/redirect/gl/patents"_qs)
+                 + u", and Zyx Grainlab."_qs);
+}
+
+void tst_AboutTexts::addresses_areInTheLoadedLanguage_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("home");
+    QTest::addColumn<QString>("patents");
+
+    QTest::newRow("German") << 1031 << u"de/redirect/gl6/home"_qs << u"de/redirect/gl/patents"_qs;
+    QTest::newRow("Japanese") << 1041 << u"ja/redirect/gl6/home"_qs << u"jp/redirect/gl/patents"_qs;
+}
+
+void tst_AboutTexts::addresses_areInTheLoadedLanguage()
+{
+    RUN_IN_FRESH_PROCESS();
+    QFETCH(const int, number);
+    QFETCH(const QString, home);
+    QFETCH(const QString, patents);
+    CSettings().setValue(languageKey, number);
+    CLanguageManager::getInstance().loadLanguageForApp();
+    const CAboutDlg dialog(nullptr, {});
+    const auto leadsTo = [&dialog](const QString &name, const QString &page) {
+        return AboutBox::label(dialog, name).text().contains(u"<a href=\""_qs + addressOf(page) + u"\">"_qs);
+    };
+    QVERIFY(leadsTo(u"zyxLinkLabel"_qs, home));
+    QVERIFY(leadsTo(u"copyrightTextLabel"_qs, patents));
 }
 
 void tst_AboutTexts::labels_ofALanguage_areSpokenAsPlainText_data()

@@ -33,6 +33,21 @@ QString readAt(const QString &path)
     return file.open(QIODevice::ReadOnly | QIODevice::Text) ? readLicenseFile(&file) : u"not opened"_qs;
 }
 
+bool isUnreadable(const QString &path)
+{
+    return QFileInfo(path).isFile() && !QFile(path).open(QIODevice::ReadOnly);
+}
+
+/*! False if this user may read all files. */
+bool makeUnreadable(const QString &path)
+{
+    if (write(path, "unreadable") && QFile::setPermissions(path, {}) && isUnreadable(path)) {
+        return true;
+    }
+    const QString toBeWrittenAlone = u"/proc/sys/vm/compact_memory"_qs; // holds for administrators, too
+    return QFile::remove(path) && QFile::link(toBeWrittenAlone, path) && isUnreadable(path);
+}
+
 } // namespace
 
 class tst_LicensesPage : public QObject
@@ -48,7 +63,7 @@ private Q_SLOTS:
 
     void readLicenseFiles_takesTextFilesOfTheFolderAlone();
     void readLicenseFiles_withoutFolder_isEmpty();
-    void readLicenseFiles_skipsWhatCannotBeOpened();
+    void readLicenseFiles_skipsSilentlyWhatCannotBeOpened();
     void readLicenseFiles_skipsDevices();
     void readLicenseFiles_ofALargeFile_skipsItWithALogLine_data();
     void readLicenseFiles_ofALargeFile_skipsItWithALogLine();
@@ -106,7 +121,7 @@ void tst_LicensesPage::readLicenseFile_ofALogLibrary_fillsTheBlanks_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isFilled");
 
-    QTest::newRow("as told") << u"log4Cplus license.txt"_qs << true;
+    QTest::newRow("plain") << u"log4Cplus license.txt"_qs << true;
     QTest::newRow("lower case") << u"log4cplus license.txt"_qs << true;
     QTest::newRow("upper case") << u"LOG4CPLUS LICENSE.TXT"_qs << true;
     QTest::newRow("longer name") << u"our log4Cplus license.txt"_qs << true;
@@ -143,16 +158,17 @@ void tst_LicensesPage::readLicenseFiles_withoutFolder_isEmpty()
     QCOMPARE(readLicenseFiles(m_sandbox.filePath(u"missing"_qs)), QStringList());
 }
 
-void tst_LicensesPage::readLicenseFiles_skipsWhatCannotBeOpened()
+void tst_LicensesPage::readLicenseFiles_skipsSilentlyWhatCannotBeOpened()
 {
+    RUN_IN_FRESH_PROCESS();
+    const TestSupport::TestLog log(m_sandbox.filePath(u"data"_qs));
     const QTemporaryDir folder;
-    QVERIFY(write(folder.filePath(u"a.txt"_qs), "a"));
-    QVERIFY(write(folder.filePath(u"b.txt"_qs), "b"));
-    QVERIFY(QFile::setPermissions(folder.filePath(u"a.txt"_qs), {}));
-    if (QFile(folder.filePath(u"a.txt"_qs)).open(QIODevice::ReadOnly)) {
+    if (!makeUnreadable(folder.filePath(u"a.txt"_qs))) {
         QSKIP("This user may read all files.");
     }
+    QVERIFY(write(folder.filePath(u"b.txt"_qs), "b"));
     QCOMPARE(readLicenseFiles(folder.path()), QStringList{u"b<br>"_qs});
+    QCOMPARE(log.records(), QStringList());
 }
 
 void tst_LicensesPage::readLicenseFiles_skipsDevices()
@@ -211,7 +227,7 @@ void tst_LicensesPage::readLicenseFiles_beyondThePage_skipsWithALogLine()
     QVERIFY(write(folder.filePath(u"small.txt"_qs), "small"));
     const QStringList texts = readLicenseFiles(folder.path());
     QCOMPARE(texts.size(), 3);
-    QVERIFY(texts.contains(u"small<br>"_qs)); // wherever the system lists it
+    QVERIFY(texts.contains(u"small<br>"_qs)); // after the one that was too much
     QVERIFY(texts.join(QString()).size() <= longestPage);
     QCOMPARE(log.records().size(), 1);
     QVERIFY(log.records().front().startsWith(u"WARN "));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "aboutDlg/AboutBox.h"
 #include "support/FreshProcess.h"
+#include "support/TestLog.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QTextCursor>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void page_withoutFiles_hasTheAcknowledgement();
     void page_untilThereIsAFolder_isEmpty();
     void page_untilTheInstallationTells_isEmpty();
+    void page_withoutLicenses_isNotReported_data();
+    void page_withoutLicenses_isNotReported();
     void page_ofManyLines_isShown();
 
 private:
@@ -167,6 +170,32 @@ void tst_LicensesView::page_untilTheInstallationTells_isEmpty()
     install();
     AboutBox::followLastLink(dialog);
     QVERIFY(description(dialog).toPlainText().contains(u"license"));
+}
+
+void tst_LicensesView::page_withoutLicenses_isNotReported_data()
+{
+    QTest::addColumn<bool>("isInstalled");
+    QTest::addColumn<bool>("hasFolder");
+
+    QTest::newRow("no value") << false << false;
+    QTest::newRow("no folder") << true << false;
+    QTest::newRow("no file") << true << true;
+}
+
+void tst_LicensesView::page_withoutLicenses_isNotReported()
+{
+    RUN_IN_FRESH_PROCESS();
+    QFETCH(const bool, isInstalled);
+    QFETCH(const bool, hasFolder);
+    const TestSupport::TestLog log(m_sandbox.filePath(u"data"_qs));
+    if (isInstalled) {
+        install();
+    }
+    QVERIFY(!hasFolder || QDir().mkpath(m_installation.filePath(u"Licenses"_qs)));
+    const CAboutDlg dialog(nullptr, {});
+    AboutBox::followLastLink(dialog);
+    QCOMPARE(description(dialog).toPlainText().isEmpty(), !hasFolder);
+    QCOMPARE(log.records(), QStringList());
 }
 
 void tst_LicensesView::page_ofManyLines_isShown()

@@ -6,6 +6,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtGui/QMoveEvent>
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
@@ -14,6 +15,25 @@
 using namespace ZYX_zglv6;
 
 namespace {
+
+/*! Tells what the base keeps of its first show, and where the dialog was moved to. */
+class WatchedAboutDlg : public CPhotoshopAboutDlg
+{
+    Q_OBJECT
+
+public:
+    QList<QPoint> places;
+
+    using CPhotoshopAboutDlg::CPhotoshopAboutDlg;
+    using CPhotoshopAboutDlg::firstShow;
+
+protected:
+    void moveEvent(QMoveEvent *event) override
+    {
+        places += event->pos();
+        CPhotoshopAboutDlg::moveEvent(event);
+    }
+};
 
 /*! A window in place of the host's, and the dialog over it. */
 class HostAndDialog
@@ -55,6 +75,7 @@ private Q_SLOTS:
     void form_isThatOfTheAboutBox();
     void show_setsTheIconEachTime();
     void show_placesTheDialogEachTime();
+    void show_firstTimeAlone_reachesQDialog();
     void myExec_blocksUntilTheDialogIsClosed();
     void unknownWindow_isNoHindrance();
 
@@ -125,6 +146,31 @@ void tst_PhotoshopAboutDlg::show_placesTheDialogEachTime()
         dialog.show();
         QCOMPARE(dialog.pos(), expectedPlace(dialog));
         dialog.hide();
+    }
+}
+
+void tst_PhotoshopAboutDlg::show_firstTimeAlone_reachesQDialog()
+{
+    QWidget host;
+    host.show();
+    auto *dialog = new WatchedAboutDlg(host.winId());
+    const std::unique_ptr<QWidget> parent(dialog->parentWidget());
+    parent->setGeometry(0, 0, 50, 40);
+    QDialog plain(parent.get());
+    plain.setFixedSize(dialog->size());
+    plain.show();
+    QVERIFY(plain.pos() != expectedPlace(*dialog)); // QDialog's place is another one
+
+    QVERIFY(dialog->firstShow);
+    for (int i = 0; i < 2; ++i) {
+        dialog->places.clear();
+        dialog->show();
+        QVERIFY(!dialog->firstShow);
+        QCOMPARE(dialog->places.contains(plain.pos()), i == 0);
+        QCOMPARE(dialog->pos(), expectedPlace(*dialog));
+        dialog->hide();
+        dialog->move(3, 5);
+        dialog->setAttribute(Qt::WA_Moved, false); // else QDialog would leave it there in any case
     }
 }
 
