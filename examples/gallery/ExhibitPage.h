@@ -19,8 +19,8 @@ public:
 
     /*!
         Writes a picture of each exhibit that has one, and whose name begins with \a only, into \a folder, under \a name
-        with its own name in it. Opens and closes dialogs. Call it while the page is shown. Returns how many could not
-       be taken or written.
+        with its own name in it. Opens and closes dialogs. Call it while the page is shown. Returns how many could
+        not be taken or written.
     */
     int writePictures(const QString &folder, PictureName name, const QString &only);
 

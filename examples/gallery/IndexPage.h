@@ -14,7 +14,7 @@ struct IndexEntry
 
 /*!
     Writes "index.html" into \a folder, a page that shows all pictures that lie there, of every run: the languages
-   beside each other, by kind, exhibit, ratio and direction; in the order of \a entries, and then those that they do not
-   name. It needs no script. False if it can't be written.
+    beside each other, by kind, exhibit, ratio and direction; in the order of \a entries, and then those that they
+    do not name. It needs no script. False if it can't be written.
 */
 bool writeIndexPage(const QString &folder, const QList<IndexEntry> &entries);

@@ -50,8 +50,8 @@ public:
 
     /*!
         QFileDialog::getSaveFileName. It first gives a proposed name in \a dir that has no extension, or one that only
-        cameras write, or a part of such a one, the first extension of \a filter. A \a selectedFilter that is still empty afterwards, as it is
-        when the user cancels, is reported as a failed assertion.
+        cameras write, or a part of such a one, the first extension of \a filter. A \a selectedFilter that is still
+        empty afterwards, as it is when the user cancels, is reported as a failed assertion.
     */
     QString getSaveFileName(QWidget *parent, const QString &caption, const QString &dir, const QString &filter,
                             QString *selectedFilter, QFlags<QFileDialog::Option> options);
