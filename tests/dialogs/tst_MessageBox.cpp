@@ -35,8 +35,8 @@ private Q_SLOTS:
 
     void operation_showsItsIconIfItShall_data();
     void operation_showsItsIconIfItShall();
-    void critical_withOkAlone_isClosed_data();
-    void critical_withOkAlone_isClosed();
+    void critical_withOkAlone_showsCloseAndAnswersNoButton_data();
+    void critical_withOkAlone_showsCloseAndAnswersNoButton();
     void okAlone_otherwise_isAStandardButton_data();
     void okAlone_otherwise_isAStandardButton();
     void buttons_lastOneIsHighlighted_data();
@@ -112,7 +112,7 @@ void tst_MessageBox::operation_showsItsIconIfItShall()
     QCOMPARE(m_driver.facts.defaultButton, u"Yes"_qs);
 }
 
-void tst_MessageBox::critical_withOkAlone_isClosed_data()
+void tst_MessageBox::critical_withOkAlone_showsCloseAndAnswersNoButton_data()
 {
     QTest::addColumn<int>("key"); // 0 clicks the button
 
@@ -121,7 +121,7 @@ void tst_MessageBox::critical_withOkAlone_isClosed_data()
     QTest::newRow("Enter") << int(Qt::Key_Enter);
 }
 
-void tst_MessageBox::critical_withOkAlone_isClosed()
+void tst_MessageBox::critical_withOkAlone_showsCloseAndAnswersNoButton()
 {
     QFETCH(const int, key);
     if (key == 0) {

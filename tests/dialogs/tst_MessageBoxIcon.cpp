@@ -124,6 +124,7 @@ private Q_SLOTS:
     void noIcon_labelIsHidden();
     void textLabel_isAsHighAsTheIcon();
     void iconLabel_followsTheTextLabel();
+    void filteredText_isPaintedAllTheSame();
     void sheetChangedWhileOpen_keepsIconAndLayout();
 
 private:
@@ -267,6 +268,12 @@ void tst_MessageBoxIcon::textLabel_isAsHighAsTheIcon()
         text = textLabelOf(box)->geometry();
     });
     QCOMPARE(smallest, 48);
+    int needed = 0;
+    look(nullptr, u"One\nTwo\nThree\nFour\nFive\nSix"_qs, [&](QMessageBox &box) {
+        smallest = textLabelOf(box)->minimumHeight();
+        needed = textLabelOf(box)->minimumSizeHint().height();
+    });
+    QVERIFY2(smallest > 48 && smallest <= needed, QByteArray::number(smallest)); // as of the font before the sheet's
     QCOMPARE(icon.center().y(), text.center().y()); // one line is level with the icon
 }
 
@@ -281,11 +288,25 @@ void tst_MessageBoxIcon::iconLabel_followsTheTextLabel()
             text->resize(text->width(), height);
             heights.append(iconLabelOf(box)->minimumHeight());
         }
-        box.findChild<QDialogButtonBox *>()->resize(500, 77); // not filtered
+        QWidget grandchild(box.findChild<QDialogButtonBox *>());
+        grandchild.installEventFilter(&box);
+        QResizeEvent resize(QSize(50, 77), QSize());
+        QCoreApplication::sendEvent(&grandchild, &resize);
         others.append(iconLabelOf(box)->minimumHeight());
     });
     QCOMPARE(heights, QList<int>({0, 123, 110, 200}));
     QCOMPARE(others, QList<int>({200}));
+}
+
+void tst_MessageBoxIcon::filteredText_isPaintedAllTheSame()
+{
+    bool isPainted = false;
+    look(nullptr, u"Full."_qs, [&](QMessageBox &box) {
+        QImage empty(textLabelOf(box)->size(), QImage::Format_RGB32);
+        empty.fill(box.grab().toImage().pixelColor(2, 2));
+        isPainted = textLabelOf(box)->grab().toImage().convertToFormat(QImage::Format_RGB32) != empty;
+    });
+    QVERIFY(isPainted);
 }
 
 void tst_MessageBoxIcon::sheetChangedWhileOpen_keepsIconAndLayout()

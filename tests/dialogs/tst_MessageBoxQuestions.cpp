@@ -354,6 +354,7 @@ void tst_MessageBoxQuestions::checkBox_liesBelowTheText()
     QMargins margins;
     int row = -1;
     int column = -1;
+    QStringList inIt;
     m_driver.onNext([&](QMessageBox &box) {
         const auto *grid = qobject_cast<QGridLayout *>(box.layout());
         if (QLayoutItem *item = grid->itemAtPosition(1, 1)) {
@@ -361,6 +362,9 @@ void tst_MessageBoxQuestions::checkBox_liesBelowTheText()
             int rowSpan = 0;
             int columnSpan = 0;
             grid->getItemPosition(grid->indexOf(item), &row, &column, &rowSpan, &columnSpan);
+            for (int i = 0; i < item->layout()->count(); ++i) {
+                inIt.append(QString::fromLatin1(item->layout()->itemAt(i)->widget()->metaObject()->className()));
+            }
         }
         box.close();
     });
@@ -368,6 +372,7 @@ void tst_MessageBoxQuestions::checkBox_liesBelowTheText()
     QCOMPARE(margins, QMargins(10, 0, 0, 0));
     QCOMPARE(row, 1);
     QCOMPARE(column, 1);
+    QCOMPARE(inIt, QStringList(u"QCheckBox"_qs));
 }
 
 QTEST_MAIN(tst_MessageBoxQuestions)
