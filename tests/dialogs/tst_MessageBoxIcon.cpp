@@ -10,6 +10,7 @@
 #include "utilsDll/look/customzyxappstyle.h"
 
 #include <QtCore/QScopeGuard>
+#include <QtCore/QSet>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
 #include <QtTest/QTest>
@@ -300,13 +301,16 @@ void tst_MessageBoxIcon::iconLabel_followsTheTextLabel()
 
 void tst_MessageBoxIcon::filteredText_isPaintedAllTheSame()
 {
-    bool isPainted = false;
+    QSet<QRgb> colors;
     look(nullptr, u"Full."_qs, [&](QMessageBox &box) {
-        QImage empty(textLabelOf(box)->size(), QImage::Format_RGB32);
-        empty.fill(box.grab().toImage().pixelColor(2, 2));
-        isPainted = textLabelOf(box)->grab().toImage().convertToFormat(QImage::Format_RGB32) != empty;
+        const QImage label = textLabelOf(box)->grab().toImage();
+        for (int x = 0; x < label.width(); ++x) {
+            for (int y = 0; y < label.height(); ++y) {
+                colors.insert(label.pixel(x, y));
+            }
+        }
     });
-    QVERIFY(isPainted);
+    QVERIFY2(colors.size() > 2, QByteArray::number(colors.size())); // letters on their ground
 }
 
 void tst_MessageBoxIcon::sheetChangedWhileOpen_keepsIconAndLayout()
