@@ -222,7 +222,7 @@ QString CMainWindow::statusText() const
 void CMainWindow::showCurrent()
 {
     m_currentSize = QSize(); // not known before it is loaded
-    m_isTurned = false;
+    m_savedTurns = 0;
     if (m_photos.current().isEmpty()) {
         m_view->showPhoto(QImage());
         statusBar()->showMessage(tr("No photographs in this folder"));
@@ -257,6 +257,7 @@ void CMainWindow::loadCurrent()
     }
     // Too late, or the program is about to leave and has ended all loops.
     loader.stop();
+    m_view->showPhoto(QImage());
     ZYX_LOG('W', m_photos.current() + u" was given up");
     statusBar()->showMessage(tr("%1 takes too long").arg(currentName()));
 }
@@ -280,6 +281,7 @@ void CMainWindow::showLoaded(const CPhotoLoader &loader)
     }
     ZYX_LOG('E', m_photos.current() + u": " + loader.error());
     statusBar()->showMessage(tr("%1 can't be shown").arg(currentName()));
+    m_view->stopProgress(); // or it would stand behind the box
     m_lastResort.ShowUnsupportedImageDialog();
 }
 

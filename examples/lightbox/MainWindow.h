@@ -98,6 +98,7 @@ private:
     void addSwitch(QMenu *menu, const QString &text, const QKeySequence &shortcut, bool isOn, const char *slot);
 
     bool mayLeave();
+    bool isTurned() const; // and the print is not saved
     void showPhotosOf(const QString &path);
     void tell(const CPhotoFiles::Outcome &outcome);
     void loadCurrent();
@@ -113,7 +114,7 @@ private:
     CSettingsPanel *m_panel;
     QAction *m_next = nullptr;
     QSize m_currentSize;
-    bool m_isTurned = false; // and the print is not saved
+    int m_savedTurns = 0; // what the print was turned by when it was saved
     QUrl m_service;
     int m_loadTimeLimit;
     std::vector<std::unique_ptr<CPhotoLoader>> m_loaders; // of this photograph, and of those given up that still run

@@ -67,7 +67,7 @@ void CMainWindow::moveToTrash()
     }
     gate().blockActions(); // as while a photograph is chosen
     const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    const CPhotoFiles::Outcome outcome = m_files.moveToTrash(m_photos.current());
+    const CPhotoFiles::Outcome outcome = m_files.moveToTrash(m_photos.current(), isTurned());
     if (outcome.isDone) {
         m_photos.leaveCurrent();
         showCurrent();
@@ -93,8 +93,11 @@ void CMainWindow::savePrint()
     }
     gate().blockActions();
     const auto unblock = qScopeGuard([] { gate().unBlockActions(); });
-    const CPhotoFiles::Outcome outcome = m_files.savePrint(m_photos.current(), m_view->print());
-    m_isTurned = m_isTurned && !outcome.isDone;
+    const CPhotoFiles::Outcome outcome
+        = m_files.savePrint(m_photos.current(), [this](const QImage &photo) { return m_view->printOf(photo); });
+    if (outcome.isDone) {
+        m_savedTurns = m_view->turns();
+    }
     tell(outcome);
 }
 
@@ -108,7 +111,20 @@ void CMainWindow::tell(const CPhotoFiles::Outcome &outcome)
 /*! Nothing that was done by hand is lost without a question. */
 bool CMainWindow::mayLeave()
 {
-    return !m_isTurned || m_files.mayLeave(m_photos.current(), m_view->print());
+    if (!isTurned()) {
+        return true;
+    }
+    const QMessageBox::StandardButton answer = m_files.askForTurned(m_photos.current());
+    if (answer == QMessageBox::Save) {
+        savePrint();
+        return !isTurned();
+    }
+    return answer == QMessageBox::Discard;
+}
+
+bool CMainWindow::isTurned() const
+{
+    return !m_currentSize.isEmpty() && m_view->turns() != m_savedTurns;
 }
 
 void CMainWindow::closeEvent(QCloseEvent *event)
@@ -118,8 +134,9 @@ void CMainWindow::closeEvent(QCloseEvent *event)
 
 void CMainWindow::turn()
 {
-    m_isTurned = !m_currentSize.isEmpty();
-    m_view->turn();
+    if (!m_currentSize.isEmpty()) {
+        m_view->turn();
+    }
 }
 
 void CMainWindow::zoomIn()
@@ -148,7 +165,11 @@ void CMainWindow::askService()
     }
     if (!m_service.host().isEmpty()) {
         statusBar()->showMessage(tr("Asking %1").arg(m_service.toDisplayString()));
-        statusBar()->showMessage(CPhotoService(m_service).describe(currentName(), m_currentSize));
+        const QString name = currentName();
+        const QString description = CPhotoService(m_service).describe(name, m_currentSize);
+        if (name == currentName()) { // another one may be shown by now
+            statusBar()->showMessage(description);
+        }
     }
 }
 

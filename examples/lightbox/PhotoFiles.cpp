@@ -12,6 +12,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <QtCore/QSize>
+#include <QtGui/QImageReader>
 #include <QtGui/QImageWriter>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QInputDialog>
@@ -57,21 +58,21 @@ CPhotoFiles::CPhotoFiles(QWidget *window)
 {
 }
 
-CPhotoFiles::Outcome CPhotoFiles::moveToTrash(const QString &photo) const
+CPhotoFiles::Outcome CPhotoFiles::moveToTrash(const QString &photo, bool isChanged) const
 {
-    if (!askWhetherToTrash(photo)) {
+    if (!askWhetherToTrash(photo, isChanged)) {
         return {};
     }
     if (moveFileToTrash(QDir::toNativeSeparators(photo)) != FileManagement::FileOperationSucceeded) {
         ZYX_LOG('W', photo + u" could not be moved to the trash");
         return {false, tr("%1 can't be moved to the trash").arg(nameOf(photo))};
     }
-    return {true, tr("%1 is in the trash").arg(nameOf(photo))};
+    return {true, QString()};
 }
 
-bool CPhotoFiles::askWhetherToTrash(const QString &photo) const
+bool CPhotoFiles::askWhetherToTrash(const QString &photo, bool isChanged) const
 {
-    if (CSettings().value(trashWithoutQuestionKey, false).toBool()) {
+    if (!isChanged && CSettings().value(trashWithoutQuestionKey, false).toBool()) {
         return true;
     }
     const auto [answer, isLastQuestion] = CMessageBox::yesNoMessageWithCheckBox(
@@ -86,14 +87,23 @@ bool CPhotoFiles::askWhetherToTrash(const QString &photo) const
     return true;
 }
 
-CPhotoFiles::Outcome CPhotoFiles::savePrint(const QString &photo, const QImage &print) const
+CPhotoFiles::Outcome CPhotoFiles::savePrint(const QString &photo,
+                                            const std::function<QImage(const QImage &)> &develop) const
 {
-    const QString path = Singleton<CNativeDialogs>::instance().getSaveFileName(
-        m_window, tr("Save the print"), QFileInfo(photo).absoluteDir().filePath(nameOfPrint(nameOf(photo))),
-        tr("JPEG (*.jpg)") + u";;" + tr("PNG (*.png)"), nullptr, QFileDialog::Options());
+    QString filter = tr("JPEG (*.jpg)");
+    QString path = askForNameOfPrint(photo, filter);
     if (path.isEmpty()) {
         return {};
     }
+    if (QFileInfo(path).suffix().isEmpty()) {
+        path += filter == tr("PNG (*.png)") ? u".png"_qs : u".jpg"_qs;
+        if (QFileInfo::exists(path)) { // nobody has asked whether to replace that
+            return {false, tr("%1 is there already").arg(nameOf(path))};
+        }
+    }
+    QImageReader reader(photo); // what is on the screen may be a smaller one
+    reader.setAutoTransform(true);
+    const QImage print = develop(reader.read());
     QSaveFile file(path); // what is there stays as it is until the print is whole
     QImageWriter writer(&file, QFileInfo(path).suffix().toLatin1());
     if (!file.open(QIODevice::WriteOnly) || !writer.write(print) || !file.commit()) {
@@ -103,12 +113,18 @@ CPhotoFiles::Outcome CPhotoFiles::savePrint(const QString &photo, const QImage &
     return {true, tr("Saved the print as %1").arg(nameOf(path))};
 }
 
-bool CPhotoFiles::mayLeave(const QString &photo, const QImage &print) const
+QString CPhotoFiles::askForNameOfPrint(const QString &photo, QString &filter) const
 {
-    const QMessageBox::StandardButton answer = CMessageBox::saveDiscardCancelMessage(
+    return Singleton<CNativeDialogs>::instance().getSaveFileName(
+        m_window, tr("Save the print"), QFileInfo(photo).absoluteDir().filePath(nameOfPrint(nameOf(photo))),
+        tr("JPEG (*.jpg)") + u";;" + tr("PNG (*.png)"), &filter, QFileDialog::Options());
+}
+
+QMessageBox::StandardButton CPhotoFiles::askForTurned(const QString &photo) const
+{
+    return CMessageBox::saveDiscardCancelMessage(
         m_window, tr("Save the print"), asPlainText(tr("\"%1\" was turned. Save the print?").arg(nameOf(photo))),
         QMessageBox::Save);
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && savePrint(photo, print).isDone);
 }
 
 CPhotoFiles::Outcome CPhotoFiles::saveCopy(const QString &photo) const

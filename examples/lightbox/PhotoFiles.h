@@ -5,6 +5,9 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 #include <QtGui/QImage>
+#include <QtWidgets/QMessageBox>
+
+#include <functional>
 
 class QWidget;
 
@@ -25,15 +28,17 @@ public:
 
     explicit CPhotoFiles(QWidget *window);
 
-    /*! Moves \a photo to the trash if the user wants it, who may want no more questions about that. */
-    Outcome moveToTrash(const QString &photo) const;
+    /*! Moves \a photo to the trash if the user wants it, who may want no more questions unless it \a isChanged. */
+    Outcome moveToTrash(const QString &photo, bool isChanged) const;
 
-    /*! Saves \a print, which was made of \a photo, under a name that the user gives, in the format that its ending
-     * tells. */
-    Outcome savePrint(const QString &photo, const QImage &print) const;
+    /*!
+        Saves what \a develop makes of the whole \a photo under a name that the user gives, in the format of its ending.
+        Without an ending it gets that of the chosen filter, and then nothing is replaced.
+    */
+    Outcome savePrint(const QString &photo, const std::function<QImage(const QImage &)> &develop) const;
 
-    /*! Whether a turned print of \a photo may go: it was saved, or the user does not want it. */
-    bool mayLeave(const QString &photo, const QImage &print) const;
+    /*! Whether to save the print of a \a photo that was turned: Save, Discard or Cancel. */
+    QMessageBox::StandardButton askForTurned(const QString &photo) const;
 
     /*! Copies \a photo in its folder under a name that the user gives. Nothing is replaced. */
     Outcome saveCopy(const QString &photo) const;
@@ -43,7 +48,9 @@ public:
     static QString nameOfPrint(const QString &name);
 
 private:
-    bool askWhetherToTrash(const QString &photo) const;
+    bool askWhetherToTrash(const QString &photo, bool isChanged) const;
+    /*! Empty for none. Changes \a filter to the chosen one of those for pictures. */
+    QString askForNameOfPrint(const QString &photo, QString &filter) const;
     static Outcome copy(const QString &photo, const QString &name);
 
     QWidget *m_window;

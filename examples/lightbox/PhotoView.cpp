@@ -7,7 +7,6 @@
 
 #include <QtGui/QPainter>
 #include <QtGui/QTransform>
-#include <QtGui/QWheelEvent>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -20,6 +19,8 @@ namespace {
 
 constexpr int border = 24; // around the print, for its shadow
 constexpr int framesOnALongSide = 60;
+constexpr int turnsInACircle = 4;
+constexpr qreal quarter = 90;
 constexpr int wholeScale = 100;
 constexpr std::array scales{5, 10, 25, 33, 50, 67, 100, 150, 200, 300, 400};
 
@@ -57,16 +58,19 @@ CPhotoView::CPhotoView(QWidget *parent)
 void CPhotoView::showPhoto(const QImage &photo)
 {
     m_photo = photo;
+    m_turns = 0;
     m_zoom = 0;
     develop();
 }
 
-QImage CPhotoView::print() const
+QImage CPhotoView::printOf(const QImage &photo) const
 {
-    if (m_photo.isNull()) {
+    if (photo.isNull()) {
         return {};
     }
-    QImage print = m_isBlackAndWhite ? m_photo.convertToFormat(QImage::Format_Grayscale8) : m_photo;
+    QImage print = m_isBlackAndWhite ? photo.convertToFormat(QImage::Format_Grayscale8) : photo;
+    // A print that is mirrored afterwards turns the other way.
+    print = print.transformed(QTransform().rotate(m_isMirrored ? -quarter * m_turns : quarter * m_turns));
     if (m_isMirrored) {
         print.mirror(true, false);
     }
@@ -93,10 +97,13 @@ void CPhotoView::setFramed(bool isFramed)
 
 void CPhotoView::turn()
 {
-    constexpr qreal quarter = 90;
-    // A print that is mirrored afterwards turns the other way.
-    m_photo = m_photo.transformed(QTransform().rotate(m_isMirrored ? -quarter : quarter));
+    m_turns = (m_turns + 1) % turnsInACircle;
     develop();
+}
+
+int CPhotoView::turns() const
+{
+    return m_turns;
 }
 
 void CPhotoView::setFilling(bool isFilling)
@@ -108,14 +115,16 @@ void CPhotoView::setFilling(bool isFilling)
 
 void CPhotoView::zoomIn()
 {
-    const auto *next = std::upper_bound(scales.begin(), scales.end(), zoom());
-    zoomTo(next == scales.end() ? scales.back() : *next);
+    const int current = m_zoom == 0 ? zoom() : m_zoom;
+    const auto *next = std::upper_bound(scales.begin(), scales.end(), current);
+    zoomTo(next == scales.end() ? current : *next);
 }
 
 void CPhotoView::zoomOut()
 {
-    const auto *current = std::lower_bound(scales.begin(), scales.end(), zoom());
-    zoomTo(current == scales.begin() ? scales.front() : *(current - 1));
+    const int current = m_zoom == 0 ? zoom() : m_zoom;
+    const auto *next = std::lower_bound(scales.begin(), scales.end(), current);
+    zoomTo(next == scales.begin() ? current : *(next - 1));
 }
 
 void CPhotoView::zoomToFit()
@@ -146,22 +155,9 @@ void CPhotoView::resizeEvent(QResizeEvent *event)
     m_zoomLabel->updateZoomPos(0);
 }
 
-void CPhotoView::wheelEvent(QWheelEvent *event)
-{
-    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-        QScrollArea::wheelEvent(event);
-        return;
-    }
-    const int turned = event->angleDelta().y();
-    if (turned != 0) {
-        turned > 0 ? zoomIn() : zoomOut();
-    }
-    event->accept();
-}
-
 void CPhotoView::develop()
 {
-    m_viewer->setPixmap(QPixmap::fromImage(print()));
+    m_viewer->setPixmap(QPixmap::fromImage(printOf(m_photo)));
     layOut();
 }
 

@@ -27,14 +27,16 @@ public:
     /*! Shows \a photo as it was taken, as large as it fits; with a null one only the ground. */
     void showPhoto(const QImage &photo);
 
-    /*! The photograph with all that was done to it, in its own pixels. */
-    QImage print() const;
+    /*! \a photo, which may be a larger one than is shown, with all that was done to the one that is. */
+    QImage printOf(const QImage &photo) const;
 
     void setBlackAndWhite(bool isBlackAndWhite);
     void setMirrored(bool isMirrored);
     void setFramed(bool isFramed);
     /*! By a quarter, clockwise. */
     void turn();
+    /*! How many quarters, from 0 to 3. */
+    int turns() const;
     /*! Fills the view to its edges, so that a part of the photograph may lie outside. */
     void setFilling(bool isFilling);
 
@@ -42,7 +44,7 @@ public:
     void zoomIn();
     void zoomOut();
     void zoomToFit();
-    /*! In percent of the photograph's own pixels; 0 without one. */
+    /*! In percent of the pixels of what is shown; 0 without a photograph. */
     int zoom() const;
 
     /*! Says that the view is busy, if that takes longer than a moment. */
@@ -51,7 +53,6 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
     void develop();
@@ -63,6 +64,7 @@ private:
     bool m_isMirrored = false;
     bool m_isFramed = false;
     bool m_isFilling = false;
+    int m_turns = 0; // quarters, as they are seen
     int m_zoom = 0; // in percent; 0 for as large as it fits
     QVBoxLayout *m_margins;
     CIconViewer *m_viewer;

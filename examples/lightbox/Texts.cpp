@@ -4,15 +4,10 @@
 
 #include "common/Look.h"
 
-#include "utilsDll/look/LanguageManager.h"
-
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir> // Q_INIT_RESOURCE
 #include <QtCore/QFile>
 #include <QtCore/QTranslator>
-#include <QtGui/QStandardItemModel>
-
-using namespace ZYX_zglv6;
 
 // Outside of all namespaces, as the generated function is. Without the call a static library leaves the resources out.
 static void initTexts()
@@ -20,22 +15,10 @@ static void initTexts()
     Q_INIT_RESOURCE(lightbox);
 }
 
-namespace {
-
-/*! Of the loaded language, not of the one that is chosen for the next start. Empty if none was loaded. */
-QString loadedAbbreviation()
-{
-    CLanguageManager &languages = CLanguageManager::getInstance();
-    const int row = languages.getLanguageIndexFromId(int(languages.loadedLanguageID()));
-    return languages.model()->index(row, languageAbbreviationColumn).data().toString();
-}
-
-} // namespace
-
 void speakLoadedLanguage()
 {
     initTexts();
-    const QString path = u":/lightbox/translations/lightbox_%1.qm"_qs.arg(loadedAbbreviation());
+    const QString path = u":/lightbox/translations/lightbox_%1.qm"_qs.arg(loadedLanguageAbbreviation());
     if (!QFile::exists(path)) {
         return; // the texts of the source
     }

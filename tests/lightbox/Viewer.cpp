@@ -10,6 +10,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
 #include <algorithm>
@@ -81,4 +82,14 @@ QPushButton *buttonOf(const QDialog &box, const QString &text)
 std::function<void(QDialog &)> clicking(const QString &button)
 {
     return [button](QDialog &box) { buttonOf(box, button)->click(); };
+}
+
+std::function<void(QDialog &)> typing(const QString &name)
+{
+    return [name](QDialog &box) {
+        auto *line = box.findChild<QLineEdit *>();
+        line->selectAll();
+        line->insert(name); // keys of a test are ASCII
+        QTest::keyClick(line, Qt::Key_Return);
+    };
 }

@@ -48,5 +48,8 @@ private:
 /*! The button with that text; null if there is none. */
 QPushButton *buttonOf(const QDialog &box, const QString &text);
 
-/*! What a guest does. */
+// What a guest does.
+
 std::function<void(QDialog &)> clicking(const QString &button);
+/*! In place of the proposal, and then Return. */
+std::function<void(QDialog &)> typing(const QString &name);

@@ -39,17 +39,6 @@ namespace {
 
 constexpr int longerThanTheGateWaitsMs = 1500;
 
-/*! In place of the proposal. */
-std::function<void(QDialog &)> typing(const QString &name)
-{
-    return [name](QDialog &box) {
-        auto *line = box.findChild<QLineEdit *>();
-        line->selectAll();
-        line->insert(name); // keys of a test are ASCII
-        QTest::keyClick(line, Qt::Key_Return);
-    };
-}
-
 /*! Until a command that waited in front of an open gate would have come. */
 void waitAsLongAsTheGateDoes()
 {
@@ -111,6 +100,7 @@ void tst_MainWindow::initTestCase()
 {
     // Without it what is thrown away goes elsewhere.
     QVERIFY(QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)));
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a guest finds Qt's alone
 }
 
 void tst_MainWindow::init()
@@ -345,6 +335,8 @@ void tst_MainWindow::openBox_keepsTheGateShut_data()
 
     QTest::newRow("move to the trash") << QByteArray("moveToTrash");
     QTest::newRow("save a copy") << QByteArray("saveCopy");
+    QTest::newRow("save the print") << QByteArray("savePrint");
+    QTest::newRow("open") << QByteArray("open");
 }
 
 void tst_MainWindow::openBox_keepsTheGateShut()

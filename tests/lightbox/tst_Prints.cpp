@@ -17,6 +17,7 @@
 #include "utilsDll/settings/Settings.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QSemaphore>
 #include <QtCore/QStandardPaths>
 #include <QtGui/QAction>
 #include <QtGui/QImage>
@@ -25,7 +26,6 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QScrollBar>
 
 #include <memory>
 
@@ -43,19 +43,6 @@ QAction *actionOf(const QMenu &menu, const QString &text)
     return nullptr;
 }
 
-/*! A photograph whose left half is red and whose right half is blue. */
-QImage twoHalves()
-{
-    QImage photo(40, 20, QImage::Format_RGB32);
-    photo.fill(Qt::red);
-    for (int y = 0; y < photo.height(); ++y) {
-        for (int x = photo.width() / 2; x < photo.width(); ++x) {
-            photo.setPixelColor(x, y, Qt::blue);
-        }
-    }
-    return photo;
-}
-
 } // namespace
 
 /*! What is done to a photograph by hand, and what the window offers beside the photographs. */
@@ -67,19 +54,23 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void print_isThePhotographWithAllThatWasDone();
-    void turn_ofAMirroredPrint_isClockwise();
-    void zoom_walksTheScales();
     void zoom_isToldForASecond();
-    void zoomedPhotograph_canBeScrolled();
+    void longLoading_isSeen();
     void bar_givesTheCommands();
     void turnedPhotograph_isAskedForBeforeItGoes_data();
     void turnedPhotograph_isAskedForBeforeItGoes();
     void turnedPhotograph_closingTheWindow_data();
     void turnedPhotograph_closingTheWindow();
+    void turnedPhotograph_isSavedBeforeItGoes_data();
+    void turnedPhotograph_isSavedBeforeItGoes();
+    void turnedPhotograph_isAskedForEvenBeforeTheTrash();
     void photographAsItWas_goesWithoutAQuestion();
     void savePrint_writesWhatIsSeen();
+    void savePrint_isAsLargeAsThePhotograph();
+    void savePrint_withoutAnEnding_getsTheFilters_data();
+    void savePrint_withoutAnEnding_getsTheFilters();
     void savePrint_thatCannotBeWritten_isTold();
+    void open_showsThePhotographAndItsFolder();
     void trash_withoutMoreQuestions();
     void aboutBox_isOpenBesideTheWindow();
     void missingDataFiles_areToldOneAfterTheOther();
@@ -92,6 +83,7 @@ private:
 void tst_Prints::initTestCase()
 {
     QVERIFY(QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)));
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // a guest finds Qt's alone
     putOnLook(QString());
 }
 
@@ -109,63 +101,6 @@ void tst_Prints::cleanup()
     TrashCan::empty();
 }
 
-void tst_Prints::print_isThePhotographWithAllThatWasDone()
-{
-    CPhotoView view;
-    QVERIFY(view.print().isNull());
-    view.showPhoto(twoHalves());
-    QCOMPARE(view.print(), twoHalves());
-    view.setMirrored(true);
-    QCOMPARE(view.print().pixelColor(5, 10), QColor(Qt::blue));
-    view.setMirrored(false);
-    view.turn();
-    QCOMPARE(view.print().size(), QSize(20, 40));
-    QCOMPARE(view.print().pixelColor(10, 5), QColor(Qt::red));
-    QCOMPARE(view.print().pixelColor(10, 35), QColor(Qt::blue));
-    view.setBlackAndWhite(true);
-    const QColor gray = view.print().pixelColor(10, 5);
-    QVERIFY(gray.red() == gray.green() && gray.green() == gray.blue());
-    view.setFramed(true);
-    QCOMPARE(view.print().size(), QSize(22, 42));
-    QCOMPARE(view.print().pixelColor(0, 20), QColor(Qt::white));
-    view.showPhoto(twoHalves());
-    QCOMPARE(view.print().size(), QSize(42, 22)); // another photograph is not turned; the panel still counts
-}
-
-void tst_Prints::turn_ofAMirroredPrint_isClockwise()
-{
-    CPhotoView view;
-    view.showPhoto(twoHalves());
-    view.setMirrored(true); // blue at the left
-    view.turn();
-    QCOMPARE(view.print().pixelColor(10, 5), QColor(Qt::blue)); // the left side is on top
-}
-
-void tst_Prints::zoom_walksTheScales()
-{
-    CPhotoView view;
-    view.resize(448, 448);
-    QCOMPARE(view.zoom(), 0);
-    view.zoomIn();
-    QCOMPARE(view.zoom(), 0);
-    QImage photo(1000, 1000, QImage::Format_RGB32);
-    photo.fill(Qt::gray);
-    view.showPhoto(photo);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QCOMPARE(view.zoom(), 40); // 448 without 24 at each side
-    for (const int scale : {50, 67, 100, 150, 200, 300, 400, 400}) {
-        view.zoomIn();
-        QCOMPARE(view.zoom(), scale);
-    }
-    for (const int scale : {300, 200, 150, 100, 67, 50, 33, 25, 10, 5, 5}) {
-        view.zoomOut();
-        QCOMPARE(view.zoom(), scale);
-    }
-    view.zoomToFit();
-    QCOMPARE(view.zoom(), 40);
-}
-
 void tst_Prints::zoom_isToldForASecond()
 {
     Viewer viewer(m_folder->path());
@@ -178,21 +113,24 @@ void tst_Prints::zoom_isToldForASecond()
     QTRY_VERIFY_WITH_TIMEOUT(!label->isVisible(), watchdogMs);
 }
 
-void tst_Prints::zoomedPhotograph_canBeScrolled()
+void tst_Prints::longLoading_isSeen()
 {
-    CPhotoView view;
-    view.resize(448, 448);
-    QImage photo(1000, 1000, QImage::Format_RGB32);
-    photo.fill(Qt::gray);
-    view.showPhoto(photo);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QVERIFY(!view.horizontalScrollBar()->isVisible());
-    view.zoomIn();
-    view.zoomIn();
-    view.zoomIn();
-    QTRY_VERIFY(view.horizontalScrollBar()->isVisible());
-    QCOMPARE(view.widget()->width(), 1048);
+    Viewer viewer(m_folder->path());
+    QSemaphore road;
+    viewer.window.pool().start([&road] { road.acquire(); }); // in front of the loader
+    auto *overlay = viewer.window.findChild<ProgressPainter *>();
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        if (overlay->isVisible()) {
+            road.release();
+            watch.stop();
+        }
+    });
+    watch.start(10);
+    viewer.window.showNext(); // ends when it was seen
+    QCOMPARE(viewer.window.currentName(), u"b.jpg"_qs);
+    QVERIFY(!watch.isActive());
+    QVERIFY(!overlay->isVisible());
 }
 
 void tst_Prints::bar_givesTheCommands()
@@ -261,9 +199,55 @@ void tst_Prints::turnedPhotograph_closingTheWindow()
     QCOMPARE(guest.visits(), 1);
 }
 
+void tst_Prints::turnedPhotograph_isSavedBeforeItGoes_data()
+{
+    QTest::addColumn<QString>("name"); // that is typed; none for a cancelled dialog
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("saved") << u"print.jpg"_qs << u"b.jpg"_qs;
+    QTest::newRow("cancelled") << QString() << u"a.jpg"_qs;
+    QTest::newRow("failed") << u"print.unknown"_qs << u"a.jpg"_qs;
+}
+
+void tst_Prints::turnedPhotograph_isSavedBeforeItGoes()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, shown);
+
+    Viewer viewer(m_folder->path());
+    viewer.press(Qt::Key_R, Qt::ControlModifier);
+    const BoxGuest question(clicking(u"Save"_qs));
+    std::unique_ptr<BoxGuest> dialog;
+    connect(qApp, &QApplication::focusChanged, this, [&] { // the question is gone, the dialog comes
+        if (question.visits() == 1 && !dialog) {
+            dialog = std::make_unique<BoxGuest>(
+                name.isEmpty() ? std::function<void(QDialog &)>([](QDialog & /*box*/) {}) : typing(name));
+        }
+    });
+    viewer.press(Qt::Key_Right);
+    disconnect(qApp, &QApplication::focusChanged, this, nullptr);
+    QCOMPARE(viewer.window.currentName(), shown);
+    QCOMPARE(m_folder->contains(u"print.jpg"_qs), name == u"print.jpg");
+    QVERIFY(name != u"print.unknown" || viewer.window.statusText() == u"print.unknown can't be saved");
+}
+
+void tst_Prints::turnedPhotograph_isAskedForEvenBeforeTheTrash()
+{
+    CSettings().setValue(u"lightbox/trashWithoutQuestion"_qs, true);
+    Viewer viewer(m_folder->path());
+    viewer.press(Qt::Key_R, Qt::ControlModifier);
+    const BoxGuest guest(clicking(u"No"_qs));
+    viewer.press(Qt::Key_Delete);
+    QCOMPARE(guest.visits(), 1);
+    QVERIFY(m_folder->contains(u"a.jpg"_qs));
+}
+
 void tst_Prints::photographAsItWas_goesWithoutAQuestion()
 {
     Viewer viewer(m_folder->path());
+    for (int i = 0; i < 4; ++i) {
+        viewer.press(Qt::Key_R, Qt::ControlModifier); // once round
+    }
     const BoxGuest guest([](QDialog & /*box*/) {});
     viewer.press(Qt::Key_Right);
     QCOMPARE(viewer.window.currentName(), u"b.jpg"_qs);
@@ -273,7 +257,6 @@ void tst_Prints::photographAsItWas_goesWithoutAQuestion()
 
 void tst_Prints::savePrint_writesWhatIsSeen()
 {
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Viewer viewer(m_folder->path());
     viewer.press(Qt::Key_R, Qt::ControlModifier);
     QString proposal;
@@ -291,16 +274,58 @@ void tst_Prints::savePrint_writesWhatIsSeen()
     QCOMPARE(nobody.visits(), 0);
 }
 
+void tst_Prints::savePrint_isAsLargeAsThePhotograph()
+{
+    const QSize size(3000, 2000); // larger than what is loaded for the screen
+    QVERIFY(m_folder->addPhoto(u"0.jpg"_qs, size));
+    Viewer viewer(m_folder->path());
+    QCOMPARE(viewer.window.currentName(), u"0.jpg"_qs);
+    viewer.press(Qt::Key_R, Qt::ControlModifier);
+    const BoxGuest guest(typing(u"print.png"_qs));
+    viewer.window.savePrint();
+    QCOMPARE(QImage(m_folder->filePath(u"print.png"_qs)).size(), size.transposed());
+}
+
+void tst_Prints::savePrint_withoutAnEnding_getsTheFilters_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("status");
+
+    QTest::newRow("new") << u"print"_qs << u"Saved the print as print.jpg"_qs;
+    QTest::newRow("there already") << u"b"_qs << u"b.jpg is there already"_qs;
+}
+
+void tst_Prints::savePrint_withoutAnEnding_getsTheFilters()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const QString, status);
+
+    const QByteArray before = m_folder->contentOf(u"b.jpg"_qs);
+    Viewer viewer(m_folder->path());
+    const BoxGuest guest(typing(typed));
+    viewer.window.savePrint();
+    QCOMPARE(viewer.window.statusText(), status);
+    QCOMPARE(m_folder->contentOf(u"b.jpg"_qs), before);
+}
+
+void tst_Prints::open_showsThePhotographAndItsFolder()
+{
+    const PhotoFolder other(m_sandbox.filePath(u"."_qs));
+    QVERIFY(other.addPhoto(u"c.jpg"_qs));
+    QVERIFY(other.addPhoto(u"d.jpg"_qs));
+    Viewer viewer(m_folder->path());
+    const BoxGuest guest(typing(other.filePath(u"d.jpg"_qs)));
+    viewer.window.open();
+    QCOMPARE(guest.visits(), 1);
+    QCOMPARE(viewer.window.currentPath(), other.filePath(u"d.jpg"_qs));
+    viewer.press(Qt::Key_Left);
+    QCOMPARE(viewer.window.currentName(), u"c.jpg"_qs);
+}
+
 void tst_Prints::savePrint_thatCannotBeWritten_isTold()
 {
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Viewer viewer(m_folder->path());
-    const BoxGuest guest([](QDialog &dialog) {
-        auto *line = dialog.findChild<QLineEdit *>();
-        line->selectAll();
-        line->insert(u"a.unknown"_qs);
-        QTest::keyClick(line, Qt::Key_Return);
-    });
+    const BoxGuest guest(typing(u"a.unknown"_qs));
     viewer.window.savePrint();
     QCOMPARE(viewer.window.statusText(), u"a.unknown can't be saved"_qs);
     QVERIFY(!m_folder->contains(u"a.unknown"_qs));

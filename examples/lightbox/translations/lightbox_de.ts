@@ -187,10 +187,6 @@
         <translation>%1 kann nicht in den Papierkorb verschoben werden</translation>
     </message>
     <message>
-        <source>%1 is in the trash</source>
-        <translation>%1 ist im Papierkorb</translation>
-    </message>
-    <message>
         <source>Move to the trash</source>
         <translation>In den Papierkorb verschieben</translation>
     </message>

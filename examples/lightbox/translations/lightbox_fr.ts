@@ -187,10 +187,6 @@
         <translation>Impossible de mettre %1 à la corbeille</translation>
     </message>
     <message>
-        <source>%1 is in the trash</source>
-        <translation>%1 est dans la corbeille</translation>
-    </message>
-    <message>
         <source>Move to the trash</source>
         <translation>Mettre à la corbeille</translation>
     </message>

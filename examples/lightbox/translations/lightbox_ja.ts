@@ -187,10 +187,6 @@
         <translation>%1 をごみ箱に移動できません</translation>
     </message>
     <message>
-        <source>%1 is in the trash</source>
-        <translation>%1 をごみ箱に移動しました</translation>
-    </message>
-    <message>
         <source>Move to the trash</source>
         <translation>ごみ箱に移動</translation>
     </message>

@@ -187,10 +187,6 @@
         <translation>无法将 %1 移到回收站</translation>
     </message>
     <message>
-        <source>%1 is in the trash</source>
-        <translation>%1 已移到回收站</translation>
-    </message>
-    <message>
         <source>Move to the trash</source>
         <translation>移到回收站</translation>
     </message>
