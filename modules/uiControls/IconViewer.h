@@ -11,7 +11,7 @@
 #include <memory>
 
 /*!
-    Shows one image, a pixmap or an icon, in the middle of its area, no larger than it is unless told to expand.
+    Shows one image, a pixmap or an icon, in the middle of its area, no larger than it is unless told so.
     A shadow around it is painted on the parent, over what the parent's first painting left there: the parent
     paints itself once before the shadow and once after it. Several viewers with a shadow on one parent multiply
     that painting: give each its own parent.

@@ -264,10 +264,13 @@ void CRetinaToolButton::followAction(QAction *action)
 void CRetinaToolButton::enterEvent(QEvent *event)
 {
     m_isHovered = true;
+    const QPointer<CRetinaToolButton> self(this);
     if (auto *enter = dynamic_cast<QEnterEvent *>(event)) { // a plain event may have the type QEvent::Enter, too
-        QToolButton::enterEvent(enter);
+        QToolButton::enterEvent(enter); // a slot of the action's hovered() may delete this button
     }
-    updateIcon();
+    if (self) {
+        updateIcon();
+    }
 }
 
 void CRetinaToolButton::updateIcon()

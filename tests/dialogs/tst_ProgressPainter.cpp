@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "dialogs/OverlayCalls.h"
+#include "support/Sandbox.h"
 #include "support/VirtualSlot.h"
 
 #include "utilsDll/dialogs/ProgressPainter.h"
@@ -84,6 +85,9 @@ private Q_SLOTS:
     void referenceWidget_thatDies_isSurvived();
     void accessibleName_isTheText_data();
     void accessibleName_isTheText();
+
+private:
+    TestSupport::Sandbox m_sandbox; // for the sheets ask for the stored language
 };
 
 void tst_ProgressPainter::initTestCase()

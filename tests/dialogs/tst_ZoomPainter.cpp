@@ -56,6 +56,7 @@ private Q_SLOTS:
     void showZoom_withEmptyText_leavesAVisibleOneAndItsTimer();
     void showZoom_lastsASecond();
     void showZoom_again_restartsTheSecond();
+    void showZoom_cancelsWhatIsPending();
     void showZoom_updatesTheReference();
     void showZoom_tenThousandTimes_leavesNoTimer();
     void show_movesNothing();
@@ -193,6 +194,15 @@ void tst_ZoomPainter::showZoom_again_restartsTheSecond()
     QCOMPARE(events.hides, 0);
     QTRY_VERIFY(!window.zoom.isVisible());
     QCOMPARE(m_timers.count(), 0);
+}
+
+void tst_ZoomPainter::showZoom_cancelsWhatIsPending()
+{
+    ZoomedWindow window;
+    delayedCall().invoke(300, &window.zoom, "show", true);
+    window.zoom.showZoom(u"50"_qs, 20);
+    QVERIFY(!delayedCall().isActive(&window.zoom, "show"));
+    QVERIFY(window.isHidingDue());
 }
 
 void tst_ZoomPainter::showZoom_updatesTheReference()

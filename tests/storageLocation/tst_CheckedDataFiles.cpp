@@ -41,6 +41,7 @@ struct ShownBox
     QMessageBox::Icon icon;
     bool hasParent;
     Qt::TextFormat format;
+    bool hasSheet; // as the product's boxes without a parent
 };
 
 /*! Presses the button of each message box that opens while it lives. */
@@ -63,7 +64,7 @@ private:
             return;
         }
         boxes.append({box->windowTitle(), box->text(), box->standardButtons(), box->icon(),
-                      box->parentWidget() != nullptr, box->textFormat()});
+                      box->parentWidget() != nullptr, box->textFormat(), !box->styleSheet().isEmpty()});
         for (QAbstractButton *button : box->buttons()) {
             button->click();
         }
@@ -262,6 +263,7 @@ void tst_CheckedDataFiles::missingFile_checked_warnsAtEachCall()
         QCOMPARE(box.icon, QMessageBox::Warning);
         QVERIFY(!box.hasParent);
         QCOMPARE(box.format, Qt::AutoText); // as QMessageBox has it
+        QVERIFY(box.hasSheet);
     }
 }
 

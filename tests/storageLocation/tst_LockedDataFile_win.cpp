@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
+#include "support/Sandbox.h"
+
 #include "storageLocation/storageLocation.h"
 
 #include <QtCore/QDir>
@@ -21,6 +23,9 @@ class tst_LockedDataFile_win : public QObject
 private Q_SLOTS:
     void lockedFile_isSeenOnlyByOpening_data();
     void lockedFile_isSeenOnlyByOpening();
+
+private:
+    TestSupport::Sandbox m_sandbox; // the box's sheets ask for the stored language
 };
 
 void tst_LockedDataFile_win::lockedFile_isSeenOnlyByOpening_data()

@@ -61,6 +61,8 @@ private Q_SLOTS:
     void eventFilter_neverSwallows();
     void moveAndResize_renewTheLook();
     void click_thatDeletesTheButton_isSurvived();
+    void press_thatDeletesTheButton_isSurvived();
+    void hover_thatDeletesTheButton_isSurvived();
 
 private:
     const ButtonImages m_images;
@@ -256,6 +258,27 @@ void tst_RetinaToolButtonEvents::click_thatDeletesTheButton_isSurvived()
     connect(raw, &QToolButton::clicked, this, [&button] { button.reset(); });
     sendMouse(*raw, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
     sendMouse(*raw, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    QVERIFY(!button);
+}
+
+void tst_RetinaToolButtonEvents::press_thatDeletesTheButton_isSurvived()
+{
+    auto button = std::make_unique<CRetinaToolButton>(m_images.normal, m_images.hover, m_images.pressed, nullptr);
+    button->resize(50, 50);
+    CRetinaToolButton *const raw = button.get();
+    connect(raw, &QToolButton::pressed, this, [&button] { button.reset(); });
+    sendMouse(*raw, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    QVERIFY(!button);
+}
+
+void tst_RetinaToolButtonEvents::hover_thatDeletesTheButton_isSurvived()
+{
+    auto button = std::make_unique<CRetinaToolButton>(m_images.normal, m_images.hover, m_images.pressed, nullptr);
+    QAction action;
+    button->setDefaultAction(&action);
+    connect(&action, &QAction::hovered, this, [&button] { button.reset(); });
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    button->enterEvent(&enter);
     QVERIFY(!button);
 }
 
