@@ -41,7 +41,8 @@ FolderPicker::FolderPicker(QWidget *parent, const QString &title, const QString 
         setDirectory(directory);
     }
     auto *box = findChild<QDialogButtonBox *>();
-    const std::unique_ptr<QPushButton> plain(box->button(QDialogButtonBox::Open)); // disabled and renamed as it goes
+    // QFileDialog disables and renames its own button with each selection: another one takes its place.
+    const std::unique_ptr<QPushButton> plain(box->button(QDialogButtonBox::Open));
     box->removeButton(plain.get());
     box->addButton(m_button, QDialogButtonBox::AcceptRole);
     m_button->setDefault(true);

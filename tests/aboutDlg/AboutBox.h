@@ -86,18 +86,25 @@ public:
 
     Browser()
     {
-        QDesktopServices::setUrlHandler(u"https"_qs, this, "open");
+        for (const QString &scheme : m_schemes) {
+            QDesktopServices::setUrlHandler(scheme, this, "open");
+        }
     }
 
     ~Browser() override
     {
-        QDesktopServices::unsetUrlHandler(u"https"_qs);
+        for (const QString &scheme : m_schemes) {
+            QDesktopServices::unsetUrlHandler(scheme);
+        }
     }
 
     Q_INVOKABLE void open(const QUrl &address)
     {
         opened.append(address);
     }
+
+private:
+    const QStringList m_schemes{u"http"_qs, u"https"_qs};
 };
 
 inline bool write(const QString &path, const QByteArray &bytes)

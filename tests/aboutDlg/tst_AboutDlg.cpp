@@ -260,6 +260,7 @@ void tst_AboutDlg::onLinkClicked_tellsAddressesFromTheLastSentence_data()
     QTest::addColumn<bool>("isOpened");
 
     QTest::newRow("https") << u"https://example.test/a"_qs << true;
+    QTest::newRow("http") << u"http://example.test/a"_qs << true;
     QTest::newRow("upper case") << u"HTTPS://example.test/a"_qs << false;
     QTest::newRow("mixed case") << u"Http://example.test/a"_qs << false;
     QTest::newRow("in the middle") << u" https://example.test/a"_qs << false;

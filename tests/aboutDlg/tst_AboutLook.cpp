@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "aboutDlg/AboutBox.h"
+#include "support/FreshProcess.h"
 
 #include "utilsDll/look/SharedUtils.h"
 #include "utilsDll/look/customzyxappstyle.h"
@@ -90,6 +91,8 @@ private Q_SLOTS:
     void parts_arePainted();
     void licenses_lieOnTheSheetsGround_data();
     void licenses_lieOnTheSheetsGround();
+    void licenses_ofAFilledPage_lieOnTheSheetsGround_data();
+    void licenses_ofAFilledPage_lieOnTheSheetsGround();
     void labels_haveTheFontsOfTheSheets();
     void texts_ofALanguage_haveRoom_data();
     void texts_ofALanguage_haveRoom();
@@ -165,6 +168,34 @@ void tst_AboutLook::licenses_lieOnTheSheetsGround()
     QCOMPARE(colourAt(image, place.topLeft()), QColor(u"#1b1b1b"_qs));
     QCOMPARE(colourAt(image, place.center()), QColor(u"#3a3a3a"_qs));
     QCOMPARE(colourAt(image, place.topLeft() - QPoint(5, 0)), QColor(Qt::black));
+}
+
+void tst_AboutLook::licenses_ofAFilledPage_lieOnTheSheetsGround_data()
+{
+    addRatioRows();
+}
+
+void tst_AboutLook::licenses_ofAFilledPage_lieOnTheSheetsGround()
+{
+    RUN_IN_FRESH_PROCESS(); // the folder of licences is asked for once
+    QFETCH(const int, ratio);
+    const QString installation = m_sandbox.filePath(u"installation"_qs);
+    QVERIFY(AboutBox::write(installation + u"/Licenses/a.txt", "license"));
+    m_machine.setValue(u"ZyxPSQtPlugInDllDir"_qs, installation);
+    StyledAboutDlg dialog;
+    AboutBox::followLastLink(dialog);
+    const QTextBrowser &description = AboutBox::description(dialog);
+    QVERIFY(!description.toPlainText().isEmpty());
+    QCOMPARE(description.palette().color(QPalette::Base).alpha(), 0); // the ground is the sheet's alone
+    const QRect place = placeIn(dialog, u"description"_qs);
+    const QWidget &viewport = *description.viewport();
+    const QRect view(viewport.mapTo(&dialog, QPoint(0, 0)), viewport.size());
+    const QImage image = painted(dialog, ratio);
+    QCOMPARE(colourAt(image, place.topLeft()), QColor(u"#1b1b1b"_qs));
+    for (const QPoint &corner : {view.topLeft(), view.topRight(), view.bottomLeft(), view.bottomRight()}) {
+        QCOMPARE(colourAt(image, corner), QColor(u"#3a3a3a"_qs)); // the text keeps its distance
+    }
+    QVERIFY(inkIn(image, view, QColor(u"#3a3a3a"_qs)) > 1000 * ratio * ratio); // there is one
 }
 
 void tst_AboutLook::labels_haveTheFontsOfTheSheets()

@@ -87,7 +87,7 @@ public:
             return E_INVALIDARG;
         }
         const auto bytes = std::size_t(m_path->size() + 1) * sizeof(wchar_t);
-        *name = static_cast<LPWSTR>(CoTaskMemAlloc(bytes));
+        *name = static_cast<LPWSTR>(m_fake->paths.allocate(bytes));
         std::memcpy(*name, m_path->utf16(), bytes);
         return S_OK;
     }

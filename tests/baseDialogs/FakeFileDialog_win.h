@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "baseDialogs/TaskMemory_win.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -58,6 +60,7 @@ public:
     QHash<UINT, LRESULT> buttonResults{{WM_LBUTTONUP, 7}}; // of that procedure; the default ones for other messages
     bool isClosed = false; // the window was told to close
     int objects = 0; // of COM, that are not released yet
+    TaskMemory paths; // of items, handed out
     IFileDialogEvents *events = nullptr; // advised, with a reference
 
 private:

@@ -33,4 +33,14 @@ void OpenDialog::watch()
     }
 }
 
+QPushButton *buttonOf(const QFileDialog &dialog)
+{
+    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+        if (button->text() == u"Select Folder") {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace TestSupport

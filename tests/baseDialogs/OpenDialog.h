@@ -4,6 +4,7 @@
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QPushButton>
 
 #include <functional>
 
@@ -28,5 +29,8 @@ private:
     QTimer m_timer;
     bool m_wasEnded = false;
 };
+
+/*! The button of a folder dialog that accepts; null if there is none. */
+QPushButton *buttonOf(const QFileDialog &dialog);
 
 } // namespace TestSupport

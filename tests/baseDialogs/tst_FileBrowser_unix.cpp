@@ -3,13 +3,16 @@
 #include "baseDialogs/NativeDialogs.h"
 
 #include "baseDialogs/OpenDialog.h"
+#include "support/AssertionReports.h"
+#include "support/FreshProcess.h"
 #include "support/Sandbox.h"
+#include "support/TestLog.h"
 
 #include <QtCore/QDir>
 #include <QtTest/QTest>
-#include <QtWidgets/QPushButton>
 
 using namespace ZYX_zglv6;
+using TestSupport::buttonOf;
 using TestSupport::OpenDialog;
 
 namespace {
@@ -17,16 +20,6 @@ namespace {
 CNativeDialogs &dialogs()
 {
     return Singleton<CNativeDialogs>::instance();
-}
-
-QPushButton *buttonOf(const QFileDialog &dialog)
-{
-    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
-        if (button->text() == u"Select Folder") {
-            return button;
-        }
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -90,10 +83,15 @@ void tst_FileBrowser_unix::options_changeNothing()
 
 void tst_FileBrowser_unix::closing_answersEmpty()
 {
+    RUN_IN_FRESH_PROCESS();
+    const TestSupport::TestLog log(m_sandbox.filePath(u"data"_qs));
+    const TestSupport::AssertionReports reports;
     QWidget owner;
     const OpenDialog open([](QFileDialog &dialog) { dialog.close(); });
     QCOMPARE(dialogs().getFileBrowserDirectory(&owner, true, QString(), u"/none/at all"_qs, {}), QString());
     QVERIFY(open.wasEnded());
+    QCOMPARE(reports.texts(), QStringList());
+    QCOMPARE(log.records(), QStringList());
 }
 
 QTEST_MAIN(tst_FileBrowser_unix)

@@ -3,18 +3,20 @@
 #include "baseDialogs/NativeDialogs.h"
 
 #include "baseDialogs/FakeFileDialog_win.h"
+#include "support/AssertionReports.h"
+#include "support/FreshProcess.h"
 #include "support/Sandbox.h"
+#include "support/TestLog.h"
 
 #include <QtCore/QDir>
 #include <QtTest/QTest>
 #include <QtWidgets/QWidget>
 
-#include <algorithm>
-#include <array>
 #include <memory>
 
 using namespace ZYX_zglv6;
 using TestSupport::FakeFileDialog;
+using TestSupport::isAllocated;
 using TestSupport::WindowMessage;
 
 namespace {
@@ -38,14 +40,6 @@ QString ask()
 LRESULT releaseMouse(const FakeFileDialog &fake)
 {
     return SendMessageW(fake.button, WM_LBUTTONUP, 0, 12);
-}
-
-/*! Whether one of the process's heaps has \a block in use. */
-bool isAllocated(const void *block)
-{
-    std::array<HANDLE, 64> heaps{};
-    const auto end = heaps.begin() + std::min<DWORD>(GetProcessHeaps(DWORD(heaps.size()), heaps.data()), heaps.size());
-    return std::any_of(heaps.begin(), end, [block](HANDLE heap) { return HeapValidate(heap, 0, block) != FALSE; });
 }
 
 } // namespace
@@ -133,6 +127,7 @@ void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases_data()
 
 void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases()
 {
+    RUN_IN_FRESH_PROCESS();
     QFETCH(const QString, step);
     QFETCH(const bool, hasHandler);
     QFETCH(const bool, isAdvised);
@@ -140,6 +135,8 @@ void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases()
     QWidget parent;
     FakeFileDialog fake;
     fake.failing = step;
+    const TestSupport::TestLog log(m_sandbox.filePath(u"data"_qs));
+    const TestSupport::AssertionReports reports;
     IFileDialogEvents *handler = nullptr;
     fake.whenAdvised = [&handler](IFileDialogEvents *events) {
         events->AddRef();
@@ -148,6 +145,8 @@ void tst_FolderDialogSteps_win::failingStep_answersEmptyAndReleases()
     bool isShown = false;
     fake.whileShown = [&isShown](IFileDialog *, IFileDialogEvents *) { isShown = true; };
     QCOMPARE(ask(parent, false, u"Batch"_qs, m_sandbox.filePath(QString())), QString());
+    QCOMPARE(reports.texts(), QStringList());
+    QCOMPARE(log.records(), QStringList());
     QVERIFY(!isShown);
     QVERIFY(fake.calls.join(u'\n').contains(step));
     QCOMPARE(fake.calls.contains(u"Unadvise 4711"_qs), isAdvised);
@@ -280,6 +279,7 @@ void tst_FolderDialogSteps_win::release_answers()
     QCOMPARE(fake.isClosed, isAccepted);
     QCOMPARE(fileOk, isAccepted ? S_OK : S_FALSE);
     QCOMPARE(fake.objects, 0);
+    QCOMPARE(fake.paths.blocks(), 0);
 }
 
 void tst_FolderDialogSteps_win::otherMessages_goToTheButton_data()
@@ -381,6 +381,7 @@ void tst_FolderDialogSteps_win::nextDialog_startsAnew()
         }
     };
     QCOMPARE(ask(), isAccepted ? u"C:\\p\\a.nef"_qs : QString());
+    QCOMPARE(former->paths.blocks(), 0);
     former.reset();
 
     FakeFileDialog next;

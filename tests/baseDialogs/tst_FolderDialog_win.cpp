@@ -3,7 +3,10 @@
 #include "baseDialogs/NativeDialogs.h"
 
 #include "baseDialogs/OpenFolderDialog_win.h"
+#include "support/AssertionReports.h"
+#include "support/FreshProcess.h"
 #include "support/Sandbox.h"
+#include "support/TestLog.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -217,11 +220,16 @@ void tst_FolderDialog_win::closing_answersEmpty_data()
 
 void tst_FolderDialog_win::closing_answersEmpty()
 {
+    RUN_IN_FRESH_PROCESS();
     QFETCH(const int, message);
     QFETCH(const int, parameter);
+    const TestSupport::TestLog log(m_sandbox.filePath(u"data"_qs));
+    const TestSupport::AssertionReports reports;
     OpenFolderDialog open([&](HWND dialog) { PostMessageW(dialog, UINT(message), WPARAM(parameter), 0); });
     QCOMPARE(ask(u"Batch"_qs, m_folder), QString());
     QVERIFY(open.wasEnded());
+    QCOMPARE(reports.texts(), QStringList());
+    QCOMPARE(log.records(), QStringList());
 }
 
 void tst_FolderDialog_win::acceptance_withoutTheMouse_isRefused()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "baseDialogs/FolderPicker_p.h"
 
+#include "baseDialogs/OpenDialog.h"
 #include "support/Sandbox.h"
 
 #include <QtCore/QDir>
@@ -13,12 +14,12 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeView>
 
 #include <memory>
 
 using namespace ZYX_zglv6;
+using TestSupport::buttonOf;
 
 namespace {
 
@@ -27,16 +28,6 @@ const QString standardFilter = QStringLiteral("Image Files (*.tiff *.tif *.jpeg 
 QTreeView *viewOf(const FolderPicker &picker)
 {
     return picker.findChild<QTreeView *>(QStringLiteral("treeView"));
-}
-
-QPushButton *buttonOf(const FolderPicker &picker)
-{
-    for (QPushButton *button : picker.findChildren<QPushButton *>()) {
-        if (button->text() == u"Select Folder") {
-            return button;
-        }
-    }
-    return nullptr;
 }
 
 QModelIndex rowOf(const FolderPicker &picker, const QString &name)
