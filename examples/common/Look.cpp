@@ -28,6 +28,14 @@ void chooseLanguage(const QString &abbreviation)
     languages.changeLanguage(found.front()->row());
 }
 
+/*! Of the loaded language's row; empty if none could be loaded. */
+QString loadedLanguageText(int column)
+{
+    CLanguageManager &languages = CLanguageManager::getInstance();
+    const int row = languages.getLanguageIndexFromId(int(languages.loadedLanguageID()));
+    return languages.model()->index(row, column).data().toString();
+}
+
 } // namespace
 
 void putOnLook(const QString &language)
@@ -43,7 +51,11 @@ void putOnLook(const QString &language)
 
 QString loadedLanguageName()
 {
-    CLanguageManager &languages = CLanguageManager::getInstance();
-    const int row = languages.getLanguageIndexFromId(int(languages.loadedLanguageID()));
-    return row < 0 ? u"the source's language"_qs : languages.model()->index(row, languageNameColumn).data().toString();
+    const QString name = loadedLanguageText(languageNameColumn);
+    return name.isEmpty() ? u"the source's language"_qs : name;
+}
+
+QString loadedLanguageAbbreviation()
+{
+    return loadedLanguageText(languageAbbreviationColumn);
 }

@@ -17,3 +17,6 @@ void putOnLook(const QString &language);
 
 /*! The language that the texts are in, as its speakers call it; "the source's language" if none could be loaded. */
 QString loadedLanguageName();
+
+/*! Its abbreviation, not that of the language chosen for the next start; empty if none could be loaded. */
+QString loadedLanguageAbbreviation();

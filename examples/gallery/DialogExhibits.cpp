@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
 // SPDX-License-Identifier: MIT
 #include "Exhibits.h"
+#include "FileBrowser.h"
 #include "Texts.h"
 
 #include "aboutDlg/AboutDlg.h"
@@ -20,7 +21,11 @@ using namespace ZYX_zglv6;
 namespace {
 
 constexpr QFileDialog::Option painted = QFileDialog::DontUseNativeDialog; // by Qt, in the product's look
-const QString images = u"Images (*.jpg *.tiff)"_qs;
+
+QString images()
+{
+    return u"Images (*.jpg *.tiff)"_qs;
+}
 
 // ---- About boxes ----
 
@@ -100,11 +105,11 @@ QList<Exhibit> fileDialogs(const QString &folder)
         {u"dialog-open-file"_qs,
          u"Open one file"_qs,
          {},
-         [folder](QWidget *parent) { dialogs().getOpenFileName(parent, {}, folder, images, nullptr, painted); }},
+         [folder](QWidget *parent) { dialogs().getOpenFileName(parent, {}, folder, images(), nullptr, painted); }},
         {u"dialog-open-files"_qs,
          u"Open several files"_qs,
          {},
-         [folder](QWidget *parent) { dialogs().getOpenFileNames(parent, {}, folder, images, nullptr, painted); }},
+         [folder](QWidget *parent) { dialogs().getOpenFileNames(parent, {}, folder, images(), nullptr, painted); }},
         {u"dialog-folder"_qs,
          u"Choose a folder"_qs,
          {},
@@ -113,13 +118,13 @@ QList<Exhibit> fileDialogs(const QString &folder)
          u"Save a raw file: the name gets the filter’s extension"_qs,
          {},
          [folder](QWidget *parent) {
-             dialogs().getSaveFileName(parent, {}, folder + u"/mountain-lake.nef", images, nullptr, painted);
+             dialogs().getSaveFileName(parent, {}, folder + u"/mountain-lake.nef", images(), nullptr, painted);
          }},
         {u"dialog-file-browser"_qs,
-         u"Choose a folder or a file, in the system’s dialog"_qs,
+         u"Choose a folder or a file"_qs,
          {},
          [folder](QWidget *parent) { dialogs().getFileBrowserDirectory(parent, true, {}, folder, {}); },
-         false},
+         isFileBrowserPainted()},
     };
 }
 

@@ -49,17 +49,17 @@ CExhibitPage::CExhibitPage(const ExhibitSection &section, QWidget *parent)
     setCustomStyleSheet(this, QssLoadBaseSheets, u":/gallery/gallery.qss"_qs);
 }
 
-int CExhibitPage::writePictures(const QString &folder, PictureName name, const QString &only)
+PictureCounts CExhibitPage::writePictures(const QString &folder, PictureName name, const QString &only)
 {
-    int failures = 0;
+    PictureCounts counts;
     for (qsizetype i = 0; i < m_exhibits.size(); ++i) {
         name.exhibit = m_exhibits.at(i).name;
         if (!m_exhibits.at(i).hasPicture || !name.exhibit.startsWith(only)) {
             continue;
         }
-        failures += pictureOf(i).save(QDir(folder).filePath(name.fileName())) ? 0 : 1;
+        counts.add(pictureOf(i).save(QDir(folder).filePath(name.fileName())));
     }
-    return failures;
+    return counts;
 }
 
 void CExhibitPage::addHeading(const QString &text)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Exhibit.h"
+#include "PictureCounts.h"
 #include "PictureName.h"
 
 #include <QtWidgets/QScrollArea>
@@ -19,10 +20,9 @@ public:
 
     /*!
         Writes a picture of each exhibit that has one, and whose name begins with \a only, into \a folder, under \a name
-        with its own name in it. Opens and closes dialogs. Call it while the page is shown. Returns how many could
-        not be taken or written.
+        with its own name in it. Opens and closes dialogs. Call it while the page is shown.
     */
-    int writePictures(const QString &folder, PictureName name, const QString &only);
+    PictureCounts writePictures(const QString &folder, PictureName name, const QString &only);
 
 private:
     void addHeading(const QString &text);

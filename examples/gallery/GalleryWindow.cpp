@@ -77,26 +77,30 @@ QList<CSheetPage *> CGalleryWindow::sheetPages() const
     return m_sheetPages;
 }
 
-int CGalleryWindow::writeSheets(const QString &folder, const QString &language) const
+PictureCounts CGalleryWindow::writeSheets(const QString &folder, const QString &language, const QString &only) const
 {
-    int failures = 0;
+    PictureCounts counts;
     for (qsizetype i = 0; i < m_sheetPages.size(); ++i) {
+        const QString kindAndName = sheetKind + m_sheetNames.at(i);
+        if (!kindAndName.startsWith(only)) {
+            continue;
+        }
         const QString name
             = u"%1-%2-%3.png"_qs.arg(language, QString::number(i + 1).rightJustified(2, u'0'), m_sheetNames.at(i));
-        failures += m_sheetPages.at(i)->widget()->grab().save(QDir(folder).filePath(name)) ? 0 : 1;
+        counts.add(m_sheetPages.at(i)->widget()->grab().save(QDir(folder).filePath(name)));
     }
-    return failures;
+    return counts;
 }
 
-int CGalleryWindow::writeExhibits(const QString &folder, const PictureName &name, const QString &only)
+PictureCounts CGalleryWindow::writeExhibits(const QString &folder, const PictureName &name, const QString &only)
 {
     show();
-    int failures = 0;
+    PictureCounts counts;
     for (CExhibitPage *page : m_exhibitPages) {
         m_stack->setCurrentWidget(page);
-        failures += page->writePictures(folder, name, only);
+        counts += page->writePictures(folder, name, only);
     }
-    return failures;
+    return counts;
 }
 
 QWidget *CGalleryWindow::newLanguageBox()

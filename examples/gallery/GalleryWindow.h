@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Exhibit.h"
+#include "PictureCounts.h"
 #include "PictureName.h"
 
 #include <QtCore/QList>
@@ -24,11 +25,14 @@ public:
     /*! In the order in which the sheets are joined. */
     QList<CSheetPage *> sheetPages() const;
 
-    /*! Writes each sheet's page into \a folder as "<language>-<number>-<sheet>.png". Returns how many could not be. */
-    int writeSheets(const QString &folder, const QString &language) const;
+    /*!
+        Writes the pages of the sheets into \a folder as "<language>-<number>-<sheet>.png", those for which "sheet-" and
+        the sheet's name begin with \a only.
+    */
+    PictureCounts writeSheets(const QString &folder, const QString &language, const QString &only) const;
 
-    /*! Writes a picture of each exhibit, as CExhibitPage does. Shows the window. Returns how many could not be. */
-    int writeExhibits(const QString &folder, const PictureName &name, const QString &only);
+    /*! Writes a picture of each exhibit, as CExhibitPage does. Shows the window. */
+    PictureCounts writeExhibits(const QString &folder, const PictureName &name, const QString &only);
 
 Q_SIGNALS:
     /*! The user wants to see another language: a matter of another start. */

@@ -5,6 +5,7 @@
 #include "PictureName.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QHash>
 #include <QtCore/QLocale>
 #include <QtCore/QMap>
 #include <QtCore/QSaveFile>
@@ -12,6 +13,8 @@
 #include <QtGui/QImageReader>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -98,12 +101,6 @@ QString languageName(const QString &language)
     return locale.language() == QLocale::English ? u"English"_qs : locale.nativeLanguageName(); // not that of a country
 }
 
-/*! An element with nothing but a text in it. */
-void writeText(QXmlStreamWriter &page, const QString &element, const QString &text)
-{
-    page.writeTextElement(element, text);
-}
-
 void writeHead(QXmlStreamWriter &page)
 {
     page.writeStartElement(u"head"_qs);
@@ -112,8 +109,8 @@ void writeHead(QXmlStreamWriter &page)
     page.writeEmptyElement(u"meta"_qs);
     page.writeAttribute(u"name"_qs, u"viewport"_qs);
     page.writeAttribute(u"content"_qs, u"width=device-width"_qs);
-    writeText(page, u"title"_qs, u"Gallery"_qs);
-    writeText(page, u"style"_qs, QString::fromUtf8(look));
+    page.writeTextElement(u"title"_qs, u"Gallery"_qs);
+    page.writeTextElement(u"style"_qs, QString::fromUtf8(look));
     page.writeEndElement();
 }
 
@@ -138,14 +135,14 @@ void writeExhibit(QXmlStreamWriter &page, const IndexEntry &entry, const Variant
 {
     page.writeStartElement(u"article"_qs);
     page.writeAttribute(u"id"_qs, entry.name);
-    writeText(page, u"h3"_qs, entry.title);
+    page.writeTextElement(u"h3"_qs, entry.title);
     bool isOpen = true; // the first one
     for (auto variant = variants.cbegin(); variant != variants.cend(); ++variant) {
         page.writeStartElement(u"details"_qs);
         if (std::exchange(isOpen, false)) {
             page.writeAttribute(u"open"_qs, QString());
         }
-        writeText(page, u"summary"_qs, variant.key());
+        page.writeTextElement(u"summary"_qs, variant.key());
         for (const Picture &picture : variant.value()) {
             writePicture(page, picture, entry.title);
         }
@@ -171,12 +168,12 @@ void writeContents(QXmlStreamWriter &page)
 void writeBody(QXmlStreamWriter &page, const QList<IndexEntry> &entries, const QHash<QString, Variants> &pictures)
 {
     page.writeStartElement(u"body"_qs);
-    writeText(page, u"h1"_qs, u"Gallery"_qs);
+    page.writeTextElement(u"h1"_qs, u"Gallery"_qs);
     writeContents(page);
     for (const Kind &kind : kinds) {
         page.writeStartElement(u"section"_qs);
         page.writeAttribute(u"id"_qs, kind.name);
-        writeText(page, u"h2"_qs, kind.title);
+        page.writeTextElement(u"h2"_qs, kind.title);
         for (const IndexEntry &entry : entries) {
             if (kindOf(entry.name) == kind.name) {
                 writeExhibit(page, entry, pictures.value(entry.name));

@@ -14,7 +14,9 @@ const QCommandLineOption &languageOption()
 
 const QCommandLineOption &ratioOption()
 {
-    static const QCommandLineOption option(u"ratio"_qs, u"Pixels to a unit: 1, 1.5 or 2."_qs, u"ratio"_qs, u"1"_qs);
+    static const QCommandLineOption option(
+        u"ratio"_qs, u"Pixels to a unit: 1, 1.5 or 2; without it those of the screen, and of a picture 1."_qs,
+        u"ratio"_qs);
     return option;
 }
 
@@ -39,6 +41,14 @@ const QCommandLineOption &onlyOption()
     return option;
 }
 
+std::optional<QString> readRatio(const QCommandLineParser &parser)
+{
+    if (parser.isSet(ratioOption())) {
+        return parser.value(ratioOption());
+    }
+    return parser.isSet(outputOption()) ? std::optional(u"1"_qs) : std::nullopt;
+}
+
 } // namespace
 
 void addGalleryOptions(QCommandLineParser &parser)
@@ -48,7 +58,7 @@ void addGalleryOptions(QCommandLineParser &parser)
 
 GalleryOptions readGalleryOptions(const QCommandLineParser &parser)
 {
-    return {parser.value(languageOption()), parser.value(ratioOption()), parser.isSet(rightToLeftOption()),
+    return {parser.value(languageOption()), readRatio(parser), parser.isSet(rightToLeftOption()),
             parser.value(outputOption()), parser.value(onlyOption())};
 }
 
@@ -57,18 +67,21 @@ bool isRatio(const QString &text)
     return QStringList{u"1"_qs, u"1.5"_qs, u"2"_qs}.contains(text);
 }
 
-QString ratioIn(const QStringList &arguments)
+std::optional<QString> ratioIn(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addGalleryOptions(parser);
     parser.parse(arguments); // others are looked at later
-    const QString ratio = readGalleryOptions(parser).ratio;
-    return parser.isSet(ratioOption()) && isRatio(ratio) ? ratio : QString();
+    std::optional<QString> ratio = readRatio(parser);
+    return ratio && isRatio(*ratio) ? ratio : std::nullopt;
 }
 
 QStringList argumentsFor(const GalleryOptions &options, const QString &language)
 {
-    QStringList arguments{u"--language"_qs, language, u"--ratio"_qs, options.ratio};
+    QStringList arguments{u"--language"_qs, language};
+    if (options.ratio) {
+        arguments += {u"--ratio"_qs, *options.ratio};
+    }
     if (options.isRightToLeft) {
         arguments.append(u"--right-to-left"_qs);
     }

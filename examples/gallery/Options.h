@@ -5,12 +5,14 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 class QCommandLineParser;
 
 struct GalleryOptions
 {
     QString language; // abbreviation; empty for the stored one
-    QString ratio = u"1"_qs;
+    std::optional<QString> ratio; // as given, and for pictures "1" if it is not; none: the screen's own
     bool isRightToLeft = false;
     QString output; // folder; empty for a window
     QString only; // how the exhibits' names begin that pictures are wanted of
@@ -25,10 +27,10 @@ GalleryOptions readGalleryOptions(const QCommandLineParser &parser);
 bool isRatio(const QString &text);
 
 /*!
-    The ratio that the \a arguments, the program's name first, ask for, empty if none or not one of those: Qt wants to
-    know it before there is an application object, and with it a proper command line.
+    The ratio that the \a arguments, the program's name first, ask for; none if it is the screen's own or not one of
+    those. Qt wants to know it before there is an application object, and with it a proper command line.
 */
-QString ratioIn(const QStringList &arguments);
+std::optional<QString> ratioIn(const QStringList &arguments);
 
 /*! The arguments with which another gallery shows \a language, all else alike. */
 QStringList argumentsFor(const GalleryOptions &options, const QString &language);

@@ -13,9 +13,9 @@ std::optional<PictureName> pictureNameOf(const QString &fileName)
 {
     static const QRegularExpression sheetForm(u"^([a-z]{2}(?:_[A-Z]{2})?)-[0-9]{2}-([A-Za-z_-]+)\\.png$"_qs);
     static const QRegularExpression form(
-        u"^([a-z]{2}(?:_[A-Z]{2})?)-([0-9.]+)-(ltr|rtl)-([a-z]+-[a-z0-9-]+)\\.png$"_qs);
+        u"^([a-z]{2}(?:_[A-Z]{2})?)-([1-9][0-9]*(?:\\.[0-9]+)?)-(ltr|rtl)-([a-z]+-[a-z0-9-]+)\\.png$"_qs);
     if (const QRegularExpressionMatch match = sheetForm.match(fileName); match.hasMatch()) {
-        return PictureName{match.captured(1), u"1"_qs, u"ltr"_qs, u"sheet-"_qs + match.captured(2)};
+        return PictureName{match.captured(1), u"1"_qs, u"ltr"_qs, sheetKind + match.captured(2)};
     }
     const QRegularExpressionMatch match = form.match(fileName);
     if (!match.hasMatch()) {

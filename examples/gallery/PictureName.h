@@ -6,6 +6,8 @@
 
 #include <optional>
 
+inline constexpr QLatin1StringView sheetKind("sheet-"); // before a sheet's name
+
 /*! What a picture shows. Its file is "<language>-<ratio>-<ltr|rtl>-<exhibit>.png". */
 struct PictureName
 {

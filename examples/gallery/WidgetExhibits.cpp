@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "Exhibits.h"
 #include "Stage.h"
+#include "ToolButtonLooks.h"
 
 #include "uiControls/IconViewer.h"
-#include "uiControls/RetinaToolButton.h"
 #include "uiControls/VerticalLabel.h"
 #include "utilsDll/dialogs/SettingsPushButton.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QAction>
 #include <QtWidgets/QBoxLayout>
 
 using namespace ZYX_zglv6;
@@ -128,14 +127,6 @@ QString shortText()
     return QCoreApplication::translate("CMessageBox", "Rotate");
 }
 
-void disableAction(CRetinaToolButton &button)
-{
-    auto *action = new QAction(&button);
-    action->setEnabled(false);
-    button.setDefaultAction(action);
-    button.forcePress(true); // which then is not seen
-}
-
 void addText(CRetinaToolButton &button, Qt::ToolButtonStyle style)
 {
     button.setText(shortText());
@@ -150,11 +141,7 @@ const QList<Row<CRetinaToolButton>> &toolButtonRows()
     using Tool = CRetinaToolButton;
     static const QList<Row<Tool>> rows{
         {QLatin1StringView("normal"), QLatin1StringView("Tool button"), [](Tool &) {}},
-        {QLatin1StringView("hover"), QLatin1StringView("Tool button, under the mouse"),
-         [](Tool &t) {
-             QEvent enter(QEvent::Enter);
-             t.enterEvent(&enter);
-         }},
+        {QLatin1StringView("hover"), QLatin1StringView("Tool button, under the mouse"), &hover},
         {QLatin1StringView("pressed"), QLatin1StringView("Tool button, pressed"),
          [](Tool &t) {
              t.setDown(true);
@@ -185,9 +172,7 @@ const QList<Row<CRetinaToolButton>> &toolButtonRows()
 
 void addToolButton(QWidget *stage, const std::function<void(CRetinaToolButton &)> &setUp)
 {
-    auto *button
-        = new CRetinaToolButton(u":/icons/arrows/left-icon-default.svg"_qs, u":/icons/arrows/left-icon-hover.svg"_qs,
-                                u":/icons/arrows/left-icon-onpressed.svg"_qs, stage);
+    CRetinaToolButton *button = newArrowButton(stage);
     button->setAccessibleName(QCoreApplication::translate("CAboutDlg", "Back"));
     setUp(*button);
     stage->layout()->addWidget(button);

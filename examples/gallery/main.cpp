@@ -4,6 +4,8 @@
 #include "GalleryWindow.h"
 #include "IndexPage.h"
 #include "Options.h"
+#include "PictureCounts.h"
+#include "PictureName.h"
 #include "SheetPage.h"
 
 #include "common/Look.h"
@@ -51,21 +53,30 @@ QList<IndexEntry> entriesOf(const QList<ExhibitSection> &sections)
 /*! The sheets' pages only in one form: what they show of the look is the same in all. */
 bool hasSheets(const GalleryOptions &options)
 {
-    const bool areWanted = options.only.isEmpty() || options.only == u"sheet";
+    const bool areWanted = sheetKind.startsWith(options.only) || options.only.startsWith(sheetKind);
     return options.output.isEmpty() || (areWanted && options.ratio == u"1" && !options.isRightToLeft);
 }
 
 int writePictures(CGalleryWindow &window, const GalleryOptions &options, const QList<IndexEntry> &entries)
 {
     const QString language = CLanguageManager::getInstance().currentLanguageAbbrv();
-    const PictureName name{language, options.ratio, options.isRightToLeft ? u"rtl"_qs : u"ltr"_qs, QString()};
+    const PictureName name{language, *options.ratio, options.isRightToLeft ? u"rtl"_qs : u"ltr"_qs, QString()};
+    if (window.devicePixelRatioF() != name.ratio.toDouble()) { // the screen's own is not Qt's to put aside everywhere
+        QTextStream(stderr) << "gallery: this screen takes no ratio; QT_QPA_PLATFORM=offscreen does" << Qt::endl;
+        return 1;
+    }
     if (!QDir().mkpath(options.output)) {
         QTextStream(stderr) << "gallery: the folder can't be made" << Qt::endl;
         return 1;
     }
-    int failures = window.writeSheets(options.output, language);
-    failures += window.writeExhibits(options.output, name, options.only);
-    failures += writeIndexPage(options.output, entries) ? 0 : 1;
+    PictureCounts counts = window.writeSheets(options.output, language, options.only);
+    counts += window.writeExhibits(options.output, name, options.only);
+    if (counts.wanted == 0) {
+        QTextStream(stderr) << "gallery: no picture of this form has a name that begins with \"" << options.only << '"'
+                            << Qt::endl;
+        return 1;
+    }
+    const int failures = counts.failed + (writeIndexPage(options.output, entries) ? 0 : 1);
     QTextStream(stdout) << loadedLanguageName() << ", ratio " << name.ratio << ", " << name.direction << ": "
                         << failures << " failures; " << QDir::toNativeSeparators(options.output) << Qt::endl;
     return failures == 0 ? 0 : 1;
@@ -95,17 +106,21 @@ void showInstead(CGalleryWindow &window, const QStringList &arguments)
     }
 }
 
-/*! Before there is an application object. */
+/*! What is asked for, and no factor of the screen's or the user's besides. Before there is an application object. */
 void scaleByRatio(int argc, char *argv[])
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
-    const QString ratio = ratioIn(arguments);
-    if (!ratio.isEmpty()) {
-        qputenv("QT_SCALE_FACTOR", ratio.toUtf8());
+    const std::optional<QString> ratio = ratioIn(arguments);
+    if (!ratio) {
+        return;
     }
+    qputenv("QT_SCALE_FACTOR", ratio->toUtf8());
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the screen's factor
+    qputenv("QT_FONT_DPI", "96"); // which else would still be in sizes in points
+    qunsetenv("QT_SCREEN_SCALE_FACTORS");
 }
 
 GalleryOptions optionsOf(const QApplication &application)
@@ -127,7 +142,7 @@ int main(int argc, char *argv[])
     scaleByRatio(argc, argv);
     const QApplication application(argc, argv);
     const GalleryOptions options = optionsOf(application);
-    if (!isRatio(options.ratio)) {
+    if (options.ratio && !isRatio(*options.ratio)) {
         QTextStream(stderr) << "gallery: a ratio is 1, 1.5 or 2" << Qt::endl;
         return 1;
     }

@@ -3,16 +3,16 @@
 #include "GoldenSpecimens.h"
 
 #include "DialogPicture.h"
+#include "ToolButtonLooks.h"
 
 #include "uiControls/IconViewer.h"
-#include "uiControls/RetinaToolButton.h"
 #include "utilsDll/dialogs/MessageBox.h"
 #include "utilsDll/dialogs/ProgressPainter.h"
 #include "utilsDll/dialogs/SettingsPushButton.h"
 #include "utilsDll/eventLoop/DelayedCall.h"
 #include "utilsDll/look/SharedUtils.h"
 
-#include <QtGui/QAction>
+#include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
@@ -53,7 +53,7 @@ GoldenSpecimen onStage(const QString &name, const QSize &size, const Maker &fill
 
 using BoxOperation = decltype(&CMessageBox::critical);
 
-/*! The left part of a box, which has the icon and the strip, and no letters. */
+/*! The part of a box where its lines begin, which has the icon and the strip, and no letters. */
 GoldenSpecimen box(const QString &name, BoxOperation operation, bool showIcon)
 {
     return {name, [operation, showIcon] {
@@ -61,7 +61,8 @@ GoldenSpecimen box(const QString &name, BoxOperation operation, bool showIcon)
                     operation(nullptr, {}, {}, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok, showIcon);
                 });
                 const int width = qRound(120 * picture.devicePixelRatio());
-                return imageOf(picture.copy(0, 0, width, picture.height()));
+                const int left = QGuiApplication::isRightToLeft() ? picture.width() - width : 0;
+                return imageOf(picture.copy(left, 0, width, picture.height()));
             }};
 }
 
@@ -91,26 +92,10 @@ void addViewer(QWidget *stage, bool isEnabled)
 GoldenSpecimen toolButton(const QString &name, const std::function<void(CRetinaToolButton &)> &setUp)
 {
     return onStage(u"tool-button-"_qs + name, QSize(60, 60), [setUp](QWidget *stage) {
-        auto *button = new CRetinaToolButton(u":/icons/arrows/left-icon-default.svg"_qs,
-                                             u":/icons/arrows/left-icon-hover.svg"_qs,
-                                             u":/icons/arrows/left-icon-onpressed.svg"_qs, stage);
+        CRetinaToolButton *button = newArrowButton(stage);
         button->setGeometry(5, 5, 50, 50);
         setUp(*button);
     });
-}
-
-void hover(CRetinaToolButton &button)
-{
-    QEvent enter(QEvent::Enter);
-    button.enterEvent(&enter);
-}
-
-void disableAction(CRetinaToolButton &button)
-{
-    auto *action = new QAction(&button);
-    action->setEnabled(false);
-    button.setDefaultAction(action);
-    button.forcePress(true); // which then is not seen
 }
 
 GoldenSpecimen pushButton(const QString &name, bool isHighlighted)
@@ -124,16 +109,19 @@ GoldenSpecimen pushButton(const QString &name, bool isHighlighted)
 }
 
 /*! The row's look is a matter of sheets. */
-const QString switchSheet = u"#settingsPushButtonButton { border: none; background: #1b1b1b;"
-                            u" image: url(:/icons/settingsPanel/correction-switch-off-default.png); }"
-                            u"#settingsPushButtonButton:checked {"
-                            u" image: url(:/icons/settingsPanel/correction-switch-on-default.png); }"_qs;
+QString switchSheet()
+{
+    return u"#settingsPushButtonButton { border: none; background: #1b1b1b;"
+           u" image: url(:/icons/settingsPanel/correction-switch-off-default.png); }"
+           u"#settingsPushButtonButton:checked {"
+           u" image: url(:/icons/settingsPanel/correction-switch-on-default.png); }"_qs;
+}
 
 GoldenSpecimen setting(const QString &name, bool isChecked)
 {
     return onStage(name, QSize(170, 40), [isChecked](QWidget *stage) {
         auto *row = new CSettingsPushButton(stage);
-        row->setStyleSheet(switchSheet);
+        row->setStyleSheet(switchSheet());
         row->setButtonCheckable(true);
         row->checkButton(isChecked);
         auto *layout = new QHBoxLayout(stage);
@@ -161,6 +149,7 @@ void addZoom(QWidget *stage)
     auto *overlay = new ZoomPainter(stage, stage);
     overlay->showZoom(u"100"_qs, 0);
     overlay->findChild<QLabel *>(u"zoomLabel"_qs)->clear();
+    Singleton<CDelayedCall>::instance().discard(overlay, nullptr); // its second may pass before it is painted
 }
 
 } // namespace

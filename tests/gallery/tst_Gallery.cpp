@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "support/Sandbox.h"
 
+#include "FileBrowser.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QHash>
 #include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QSet>
 #include <QtCore/QXmlStreamReader>
 #include <QtGui/QImage>
@@ -47,8 +50,13 @@ private Q_SLOTS:
     void output_hasAPictureOfEachExhibit();
     void index_namesEachPicture();
     void rightToLeft_isMirrored();
+    void ratio_scalesThePictures_data();
     void ratio_scalesThePictures();
+    void ratio_ofTheScreen_isNoneOfThePictures();
     void ratio_ofAnotherNumber_endsWithoutStarting();
+    void only_ofASheet_writesThatSheet();
+    void only_thatFitsNothing_isAFailure_data();
+    void only_thatFitsNothing_isAFailure();
     void output_hasAPictureOfEachSheet_data();
     void output_hasAPictureOfEachSheet();
     void pages_wearTheSheets();
@@ -57,7 +65,8 @@ private Q_SLOTS:
     void surplusArgument_endsWithoutStarting();
 
 private:
-    Run run(const QStringList &arguments) const;
+    Run run(const QStringList &arguments,
+            const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) const;
     QString folderOf(const QString &language) const;
     QImage picture(const QString &name) const;
     bool writeAsWell(const QStringList &arguments) const;
@@ -67,9 +76,11 @@ private:
     QHash<QString, Run> m_runs;
 };
 
-Run tst_Gallery::run(const QStringList &arguments) const
+Run tst_Gallery::run(const QStringList &arguments, const QProcessEnvironment &environment) const
 {
     QProcess gallery;
+    gallery.setProcessEnvironment(environment);
+    gallery.setWorkingDirectory(m_sandbox.filePath(u"."_qs));
     gallery.start(QDir(QCoreApplication::applicationDirPath()).filePath(u"gallery"_qs), arguments);
     Run result;
     result.isClean = gallery.waitForFinished(watchdogMs) && gallery.exitStatus() == QProcess::NormalExit
@@ -117,7 +128,8 @@ void tst_Gallery::output_hasAPictureOfEachExhibit()
     QVERIFY2(gallery.isClean, qPrintable(gallery.errors));
     QVERIFY2(gallery.output.contains(u", ratio 1, ltr: 0 failures; "), qPrintable(gallery.output));
     const QDir folder(folderOf(u"en"_qs));
-    const QHash<QString, qsizetype> counts{{u"box"_qs, 31}, {u"dialog"_qs, 9}, {u"overlay"_qs, 6}, {u"widget"_qs, 31}};
+    const QHash<QString, qsizetype> counts{
+        {u"box"_qs, 31}, {u"dialog"_qs, isFileBrowserPainted() ? 10 : 9}, {u"overlay"_qs, 6}, {u"widget"_qs, 31}};
     for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
         const QStringList names = folder.entryList({u"en-1-ltr-%1-*.png"_qs.arg(count.key())}, QDir::Files);
         QVERIFY2(names.size() == count.value(), qPrintable(names.join(u' ')));
@@ -145,17 +157,80 @@ void tst_Gallery::rightToLeft_isMirrored()
     QVERIFY(areaOf(mirrored, highlight).isValid() && areaOf(mirrored, highlight).right() < middle);
 }
 
+void tst_Gallery::ratio_scalesThePictures_data()
+{
+    QTest::addColumn<QString>("ratio");
+    QTest::newRow("1.5") << u"1.5"_qs;
+    QTest::newRow("2") << u"2"_qs;
+}
+
 void tst_Gallery::ratio_scalesThePictures()
 {
+    QFETCH(const QString, ratio);
+
     QVERIFY(runIn(u"en"_qs).isClean);
-    QVERIFY(writeAsWell({u"--ratio"_qs, u"2"_qs, u"--only"_qs, u"widget-viewer"_qs}));
+    QVERIFY(writeAsWell({u"--ratio"_qs, ratio, u"--only"_qs, u"widget-viewer"_qs}));
     const QDir folder(folderOf(u"en"_qs));
-    const QStringList names = folder.entryList({u"en-2-ltr-*.png"_qs}, QDir::Files);
+    const QStringList names = folder.entryList({u"en-%1-ltr-widget-viewer-*.png"_qs.arg(ratio)}, QDir::Files);
     QCOMPARE(names.size(), 13);
     for (const QString &name : names) {
-        const QImage single = picture(QString(name).replace(u"en-2-"_qs, u"en-1-"_qs));
-        QCOMPARE(picture(name).size(), single.size() * 2);
+        const QImage single = picture(u"en-1-ltr-"_qs + name.section(u"-ltr-"_qs, 1));
+        QCOMPARE(single.size(), QSize(180, 180));
+        QCOMPARE(picture(name).size(), single.size() * ratio.toDouble());
     }
+}
+
+/*! A desktop at 150 percent, and what its user may have set against it. */
+void tst_Gallery::ratio_ofTheScreen_isNoneOfThePictures()
+{
+    QVERIFY(runIn(u"en"_qs).isClean);
+    const QImage usual = picture(u"en-1-ltr-box-save.png"_qs);
+    QVERIFY(!usual.isNull());
+    QFile screen(m_sandbox.filePath(u"screen.json"_qs));
+    QVERIFY(screen.open(QIODevice::WriteOnly));
+    screen.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1920, "height": 1080, "dpr": 1,)"
+                 R"( "logicalDpi": 144, "logicalBaseDpi": 96}]})");
+    screen.close();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"QT_QPA_PLATFORM"_qs, u"offscreen:configfile=screen.json"_qs);
+    environment.insert(u"QT_SCREEN_SCALE_FACTORS"_qs, u"1.5"_qs);
+    environment.insert(u"QT_USE_PHYSICAL_DPI"_qs, u"1"_qs);
+    const QString output = m_sandbox.filePath(u"desktop"_qs);
+    const QStringList box{u"--language"_qs, u"en"_qs, u"--output"_qs, output, u"--only"_qs, u"box-save"_qs};
+    for (const QStringList &ratio : {QStringList(), QStringList{u"--ratio"_qs, u"1"_qs}}) {
+        const Run gallery = run(box + ratio, environment);
+        QVERIFY2(gallery.isClean, qPrintable(gallery.errors));
+        QCOMPARE(QImage(output + u"/en-1-ltr-box-save.png"), usual);
+        QVERIFY(QDir(output).removeRecursively());
+    }
+}
+
+void tst_Gallery::only_ofASheet_writesThatSheet()
+{
+    const QString output = m_sandbox.filePath(u"one sheet"_qs);
+    const Run gallery = run({u"--language"_qs, u"en"_qs, u"--output"_qs, output, u"--only"_qs, u"sheet-cust"_qs});
+    QVERIFY2(gallery.isClean, qPrintable(gallery.errors));
+    QCOMPARE(QDir(output).entryList({u"*.png"_qs}, QDir::Files), QStringList(u"en-01-custom.png"_qs));
+}
+
+void tst_Gallery::only_thatFitsNothing_isAFailure_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("no such name") << QStringList{u"--only"_qs, u"bocks"_qs};
+    QTest::newRow("sheets in another ratio") << QStringList{u"--only"_qs, u"sheet"_qs, u"--ratio"_qs, u"2"_qs};
+}
+
+void tst_Gallery::only_thatFitsNothing_isAFailure()
+{
+    QFETCH(const QStringList, arguments);
+
+    const QString output = m_sandbox.filePath(u"nothing"_qs);
+    const Run gallery = run(QStringList{u"--language"_qs, u"en"_qs, u"--output"_qs, output} + arguments);
+    QVERIFY(!gallery.isClean);
+    QVERIFY2(
+        gallery.errors.contains(u"no picture of this form has a name that begins with \"%1\""_qs.arg(arguments.at(1))),
+        qPrintable(gallery.errors));
+    QCOMPARE(QDir(output).entryList({u"*.png"_qs}, QDir::Files), QStringList());
 }
 
 /*! After runs of several kinds: it shows what all have left. */
@@ -248,7 +323,9 @@ void tst_Gallery::output_thatCannotBeWritten_isAFailure()
 {
     QFile file(m_sandbox.filePath(u"file"_qs));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(!run({u"--output"_qs, m_sandbox.filePath(u"file/folder"_qs)}).isClean);
+    const Run gallery = run({u"--output"_qs, m_sandbox.filePath(u"file/folder"_qs)});
+    QVERIFY(!gallery.isClean);
+    QVERIFY2(gallery.errors.contains(u"the folder can't be made"), qPrintable(gallery.errors));
 }
 
 void tst_Gallery::languages_lookDifferent()

@@ -24,9 +24,43 @@ namespace {
 */
 constexpr double threshold = 0.001;
 
-QString fileNameOf(const QString &specimen, const QByteArray &ratio)
+/*! In what form parts are painted. */
+struct Form
 {
-    return specimen + u"-" + QString::fromLatin1(ratio) + u".png";
+    const char *suffix; // of the files
+    const char *ratio;
+    Qt::LayoutDirection direction;
+    QStringList specimens; // empty for all
+};
+
+/*! Fractions of a pixel, and the direction, are a matter of few parts. */
+const QList<Form> &forms()
+{
+    static const QList<Form> all{
+        {"1", "1", Qt::LeftToRight, {}},
+        {"2", "2", Qt::LeftToRight, {}},
+        {"1.5",
+         "1.5",
+         Qt::LeftToRight,
+         {u"box-critical"_qs, u"viewer"_qs, u"tool-button-normal"_qs, u"button"_qs, u"setting-on"_qs,
+          u"overlay-progress"_qs}},
+        {"rtl", "1", Qt::RightToLeft, {u"box-critical"_qs, u"setting-on"_qs}},
+    };
+    return all;
+}
+
+QList<GoldenSpecimen> specimensIn(const Form &form)
+{
+    QList<GoldenSpecimen> specimens = goldenSpecimens();
+    specimens.removeIf([&form](const GoldenSpecimen &specimen) {
+        return !form.specimens.isEmpty() && !form.specimens.contains(specimen.name);
+    });
+    return specimens;
+}
+
+QString fileNameOf(const QString &specimen, const Form &form)
+{
+    return specimen + u"-" + QLatin1StringView(form.suffix) + u".png";
 }
 
 QImage kept(const QString &fileName)
@@ -85,22 +119,26 @@ void tst_GoldenImages::initTestCase()
 
 void tst_GoldenImages::parts_lookAsKept_data()
 {
-    QTest::addColumn<QByteArray>("ratio");
+    QTest::addColumn<int>("number");
 
-    QTest::newRow("ratio 1") << QByteArray("1");
-    QTest::newRow("ratio 2") << QByteArray("2");
+    QTest::newRow("ratio 1") << 0;
+    QTest::newRow("ratio 2") << 1;
+    QTest::newRow("ratio 1.5") << 2;
+    QTest::newRow("right to left") << 3;
 }
 
 void tst_GoldenImages::parts_lookAsKept()
 {
-    QFETCH(const QByteArray, ratio);
-    qputenv("QT_SCALE_FACTOR", ratio); // read by the next application object
+    QFETCH(const int, number);
+    const Form &form = forms().at(number);
+    qputenv("QT_SCALE_FACTOR", form.ratio); // read by the next application object
     RUN_IN_FRESH_PROCESS();
+    QGuiApplication::setLayoutDirection(form.direction);
 
     const QString folder = qEnvironmentVariable("ZYX_WRITE_GOLDEN");
     QStringList failures;
-    for (const GoldenSpecimen &specimen : goldenSpecimens()) {
-        const QString fileName = fileNameOf(specimen.name, ratio);
+    for (const GoldenSpecimen &specimen : specimensIn(form)) {
+        const QString fileName = fileNameOf(specimen.name, form);
         const QImage image = specimen.paint();
         if (!folder.isEmpty()) {
             QVERIFY2(image.save(QDir(folder).filePath(fileName)), qPrintable(fileName));
@@ -120,11 +158,14 @@ void tst_GoldenImages::parts_lookAsKept()
 void tst_GoldenImages::keptImages_areThoseOfTheParts()
 {
     QStringList names;
-    for (const GoldenSpecimen &specimen : goldenSpecimens()) {
-        const QString single = fileNameOf(specimen.name, "1");
-        const QString twofold = fileNameOf(specimen.name, "2");
-        QCOMPARE(kept(twofold).size(), kept(single).size() * 2);
-        names += {single, twofold};
+    for (const Form &form : forms()) {
+        const QList<GoldenSpecimen> specimens = specimensIn(form);
+        QVERIFY(form.specimens.isEmpty() || form.specimens.size() == specimens.size());
+        for (const GoldenSpecimen &specimen : specimens) {
+            names.append(fileNameOf(specimen.name, form));
+            const QSize single = kept(fileNameOf(specimen.name, forms().first())).size();
+            QCOMPARE(kept(names.last()).size(), single * QByteArray(form.ratio).toDouble());
+        }
     }
     names.sort();
     QCOMPARE(QDir(u":/golden"_qs).entryList(QDir::Files, QDir::Name), names);

@@ -53,6 +53,8 @@ void tst_PictureName::pictureNameOf_anotherForm_isNone_data()
     QTest::newRow("nothing") << QString();
     QTest::newRow("no direction") << u"de-1-box-critical-ok.png"_qs;
     QTest::newRow("another direction") << u"de-1-up-box-critical-ok.png"_qs;
+    QTest::newRow("no number for a ratio") << u"de-1.-ltr-box-critical-ok.png"_qs;
+    QTest::newRow("ratio zero") << u"de-0-ltr-box-critical-ok.png"_qs;
     QTest::newRow("no exhibit") << u"de-1-ltr-.png"_qs;
     QTest::newRow("another kind of file") << u"de-1-ltr-box-critical-ok.jpg"_qs;
     QTest::newRow("mark-up") << u"de-1-ltr-box-<b>.png"_qs;
