@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "baseDialogs/WidgetFromHWND.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -116,7 +118,7 @@ void showScale(ZYX_zglv6::ZoomPainter &painter, double scale);
 
 QString chooseTarget(QWidget *window, const QString &photograph);
 QString chooseSource(QWidget &window, const QString &lastFolder);
-void showInHost(quint64 hostWindow, QWidget *panel);
+void showInHost(HWND hostWindow, QWidget *panel);
 
 // aboutDlg.cpp
 

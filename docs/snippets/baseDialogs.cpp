@@ -32,9 +32,9 @@ QString chooseSource(QWidget &window, const QString &lastFolder)
 
 //! [panel]
 /*! Puts \a panel into a window of a host that knows nothing of Qt. */
-void showInHost(quint64 hostWindow, QWidget *panel)
+void showInHost(HWND hostWindow, QWidget *panel)
 {
-    auto *ground = new CWidgetFromHWND(reinterpret_cast<HWND>(hostWindow)); // nobody else owns it
+    auto *ground = new CWidgetFromHWND(hostWindow); // nobody else owns it
     auto *layout = new QVBoxLayout(ground);
     layout->addWidget(panel);
     ground->show();

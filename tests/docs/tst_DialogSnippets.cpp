@@ -159,7 +159,7 @@ void tst_DialogSnippets::chooseTarget_proposesAWritableName()
 void tst_DialogSnippets::showInHost_showsThePanel()
 {
     auto *panel = new QLabel(u"Grain"_qs);
-    Snippets::showInHost(0, panel);
+    Snippets::showInHost(nullptr, panel);
     const std::unique_ptr<QWidget> ground(panel->window());
     QVERIFY(qobject_cast<CWidgetFromHWND *>(ground.get()));
     QVERIFY(panel->isVisible());
