@@ -21,7 +21,7 @@ constexpr QColor paint(20, 200, 60);
 
 HWND handleOf(quintptr id)
 {
-    return reinterpret_cast<HWND>(id);
+    return reinterpret_cast<HWND>(id); // NOLINT(performance-no-int-to-ptr)
 }
 
 /*! What another program sees of a window. */

@@ -7,6 +7,7 @@
 
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
+#include <QtWidgets/QPushButton>
 
 using namespace ZYX_zglv6;
 
