@@ -8,13 +8,15 @@ Usage: makeCatalogue.py [output]
 Standard library only. The same tables give the same bytes: there is no random state and no clock, and the field of the
 SQLite header that names the writing library is set to a fixed value.
 
-Taken from the tables: makers, bodies, lenses, ids, focal lengths, widest apertures. Set by rule here: which pairs have a
-RAW and an RGB module of their own, the module identifiers, the narrowest aperture of an interchangeable lens.
+Taken from the tables: makers, bodies, lenses, ids, focal lengths, widest apertures. Set by rule here: which pairs are
+served, which of them have a RAW and an RGB module of their own or the module of another body, which rows drop the lens
+name, the module identifiers, the narrowest aperture of an interchangeable lens.
 """
 
 import hashlib
 import sqlite3
 import sys
+from collections import Counter
 from pathlib import Path
 from typing import NamedTuple
 
@@ -56,9 +58,18 @@ SCHEMA = [
 NONE = "NULL"  # the word, not a null value: a look-up for "no lens id" compares with it
 ANY_FOCAL_LENGTH = (0.0, 2000.0)  # a built-in lens of unknown range: no focal length rules it out
 NARROWEST_APERTURE = 22.0
+IDS_OF_ONE_LENS = 3  # a lens's later versions report ids of their own; behind an adapter it has one
 CROP_TOLERANCE = 1.06  # makers round crop factors; a lens for 1.53 serves a body of 1.5
-SPLIT_ONE_PAIR_IN = 10
 HEADER_VERSION = 3_040_001  # bytes 96 to 99 of the file, otherwise the version of the library that happens to be here
+
+# The size of this version. The rules below rank what the tables allow and take the best until it is reached.
+ROWS = 85_940
+MODULES = 73_882
+RAW_ROWS = 8_891
+RGB_ROWS = 9_249
+ROWS_WITHOUT_LENS_ID = 10_671
+ROWS_WITHOUT_LENS_NAME = 39_150
+SPLIT_PAIRS_WITHOUT_ID = 821
 
 
 class Body(NamedTuple):
@@ -96,8 +107,9 @@ def rank(*parts: str) -> int:
 
 def identifier(maker: str, model: str) -> str:
     """Maker and model run together, each word begun with a capital: "Apple", "iPhone 5s" -> "AppleIPhone5S"."""
-    own = model[len(maker) + 1:] if model.startswith(maker + " ") else model
-    words = "".join(c if c.isalnum() else " " for c in f"{maker} {own.replace('+', ' Plus ')}").split()
+    own = model[len(maker) + 1:] if model.lower().startswith(maker.lower() + " ") else model
+    own = own.replace("µ", "u").replace("+", " Plus ")  # as cameras write it
+    words = "".join(c if c.isalnum() else " " for c in f"{maker} {own}").split()
     capital = []
     for word in words:
         first = next((i for i, c in enumerate(word) if c.isalpha()), 0)
@@ -121,14 +133,38 @@ def read_bodies() -> list:
 
 def read_lenses(first_thumbnail: int) -> list:
     lenses = []
+    thumbnails = {}
     for name, _, mounts, fmin, fmax, widest, _, crop, ids in rows("lenses.tsv", 9):
         by_mount = {}
         for entry in filter(None, ids.split(";")):
             mount, lens_id = entry.split("=")
             by_mount.setdefault(mount, []).append(lens_id)
+        thumbnail = thumbnails.setdefault(name, first_thumbnail + len(thumbnails))
         lenses.append(Lens(name, mounts.split(";"), float(fmin), float(fmax), float(widest), float(crop), by_mount,
-                           first_thumbnail + len(lenses)))
+                           thumbnail))
     return lenses
+
+
+class Pair:
+    """A body with a lens that fits it. It has one module, or if it is `split` one for RAW and one for RGB images."""
+
+    def __init__(self, body: Body, lens: Lens, mount: str):
+        self.body = body
+        self.lens = lens
+        self.native = mount == body.mount
+        ids = lens.ids.get(body.mount) or lens.ids.get(mount) or [NONE]
+        self.ids = ids[:IDS_OF_ONE_LENS] if self.native else ids[:1]
+        self.rank = rank(body.identifier, lens.name)
+        self.split = False
+        self.cid = ""  # of the module of another body; empty: it has its own
+
+    @property
+    def has_id(self) -> bool:
+        return self.ids != [NONE]
+
+    @property
+    def kinds(self) -> list:
+        return kinds(self.split, self.body.raw)
 
 
 class Cids:
@@ -154,48 +190,159 @@ def kinds(split: bool, raw: bool = True) -> list:
     return [(1, 0), (0, 1)] if split else [(0, 0)]
 
 
-def built_in_modules(body: Body, thumbnail: int, ranges: dict, cids: Cids) -> list:
+def built_in_rows(body: Body, thumbnail: int, ranges: dict, cids: Cids) -> list:
     (fmin, fmax), (amin, amax) = ranges.get(body.mount, (ANY_FOCAL_LENGTH, (0.0, 0.0)))
     name = f"{body.model} Lens"
     return [(cids.take(body.identifier, name, str(kind)), body.id, name, fmin, fmax, amin, amax, NONE, NONE, 1, *kind,
              thumbnail) for kind in kinds(True, body.raw)]
 
 
-def own_modules(body: Body, thumbnail: int) -> list:
+def own_rows(body: Body, thumbnail: int) -> list:
     name = f"{body.model} Lens"
     common = (body.id, name, OWN_FOCAL_LENGTH, OWN_FOCAL_LENGTH, 0.0, 0.0, NONE, NONE, 1)
     return [(OWN_RAW_CID, *common, 1, 0, thumbnail), (OWN_RGB_CID, *common, 0, 1, thumbnail)]
 
 
+def rows_of_built_in_lenses(bodies: list, cids: Cids) -> list:
+    ranges = read_built_in_ranges()
+    result = []
+    for thumbnail, body in enumerate((body for body in bodies if body.built_in), 1):
+        own = MAKERS[body.maker - 1] == OWN_MAKER
+        result += own_rows(body, thumbnail) if own else built_in_rows(body, thumbnail, ranges, cids)
+    return result
+
+
 def mount_between(body: Body, lens: Lens, adapters: dict) -> str:
-    """The mount by which `lens` goes on `body`, its own first; empty if it does not fit or does not cover the sensor."""
+    """The mount by which `lens` goes on `body`, its own first; empty if it does not fit or cover the sensor."""
     if lens.crop > body.crop * CROP_TOLERANCE:
         return ""
     fitting = (mount for mount in [body.mount, *adapters.get(body.mount, [])] if mount in lens.mounts)
     return next(fitting, "")
 
 
-def lens_modules(body: Body, lens: Lens, mount: str, shared_ids: set, cids: Cids) -> list:
-    ids = lens.ids.get(body.mount) or lens.ids.get(mount) or [NONE]
-    amin, amax = (lens.widest, NARROWEST_APERTURE) if lens.widest > 0 else (0.0, 0.0)
-    split = body.raw and rank("split", body.identifier, lens.name) % SPLIT_ONE_PAIR_IN == 0
+def fitting_pairs(bodies: list, lenses: list) -> list:
+    """Each body with each lens that fits it, in the order of both; a lens by its first entry that does."""
+    adapters = {mount: others.split(";") for mount, others in rows("mounts.tsv", 2)}
     result = []
-    for kind in kinds(split):
-        cid = cids.take(body.identifier, lens.name, str(kind))
-        for lens_id in ids:  # a lens that reports several ids has a row for each, with one module
-            # the name is needed where the id alone does not tell the lens
-            lens_name = lens.name if lens_id == NONE or lens_id in shared_ids else NONE
-            result.append((cid, body.id, lens.name, lens.fmin, lens.fmax, amin, amax, lens_id, lens_name, 0, *kind,
-                           lens.thumbnail))
+    for body in bodies:
+        seen = set()
+        for lens in lenses:
+            mount = mount_between(body, lens, adapters)
+            if mount and lens.name not in seen:
+                seen.add(lens.name)
+                result.append(Pair(body, lens, mount))
     return result
 
 
-def ids_of_several_lenses(lenses: list) -> set:
+def best_first(pairs: list) -> list:
+    """A lens's own mount before an adapter, then by rank; each lens's first pair leads, so that no lens is left out."""
+    order = sorted(pairs, key=lambda pair: (not pair.native, pair.rank))
+    seen = set()
+    leading = []
+    for pair in order:
+        if pair.lens.name not in seen:
+            seen.add(pair.lens.name)
+            leading.append(pair)
+    first = set(map(id, leading))
+    return leading + [pair for pair in order if id(pair) not in first]
+
+
+def take_rows(pairs: list, count: int) -> list:
+    """The best pairs whose ids make `count` rows; a pair that is too large for the rest is passed over."""
+    result = []
+    for pair in pairs:
+        if len(pair.ids) <= count:
+            result.append(pair)
+            count -= len(pair.ids)
+    require(count == 0, "the tables do not have enough pairs of a body and a lens")
+    return result
+
+
+def split(pairs: list, count: int) -> None:
+    """Gives the `count` first by rank of `pairs` a RAW and an RGB module; a lens of several ids keeps one for both."""
+    able = sorted((pair for pair in pairs if pair.body.raw and len(pair.ids) == 1), key=lambda pair: pair.rank)
+    require(len(able) >= count, "too few pairs can be split")
+    for pair in able[:count]:
+        pair.split = True
+
+
+def share_modules(pairs: list, count: int, cids: Cids) -> None:
+    """Lets `count` pairs use the module that another body of the same maker, mount and crop factor has for the lens."""
+    groups = {}
+    for pair in pairs:
+        if not pair.split and pair.body.raw:
+            groups.setdefault((pair.body.maker, pair.body.mount, pair.body.crop, pair.lens.name), []).append(pair)
+    able = [(pair, group[0]) for group in groups.values() for pair in group[1:]]
+    require(len(able) >= count, "too few pairs can share a module")
+    for pair, owner in sorted(able, key=lambda entry: entry[0].rank)[:count]:
+        pair.cid = cid_of(owner, owner.kinds[0], cids)
+
+
+def cid_of(pair: Pair, kind: tuple, cids: Cids) -> str:
+    if not pair.cid and not pair.split:
+        pair.cid = cids.take(pair.body.identifier, pair.lens.name, str(kind))
+    return pair.cid or cids.take(pair.body.identifier, pair.lens.name, str(kind))
+
+
+def choose_pairs(bodies: list, lenses: list, built_in: list, cids: Cids) -> list:
+    """The pairs of interchangeable lenses that this version serves, split and shared so that its size is met."""
+    built_in_kinds = Counter(row[10:12] for row in built_in)
+    splits = RAW_ROWS - built_in_kinds[1, 0]
+    rgb_pairs = RGB_ROWS - built_in_kinds[0, 1] - splits
+    fitting = fitting_pairs([body for body in bodies if not body.built_in], lenses)
+    rgb_only = best_first([pair for pair in fitting if not pair.body.raw and len(pair.ids) == 1 and pair.has_id])
+    require(len(rgb_only) >= rgb_pairs, "too few pairs of bodies that write no RAW")
+    chosen = rgb_only[:rgb_pairs]
+    fitting = [pair for pair in fitting if pair.body.raw]
+    without_id = ROWS_WITHOUT_LENS_ID - len(built_in)
+    with_id = ROWS - ROWS_WITHOUT_LENS_ID - rgb_pairs - (splits - SPLIT_PAIRS_WITHOUT_ID)
+    unnumbered = take_rows(best_first([pair for pair in fitting if not pair.has_id]), without_id - SPLIT_PAIRS_WITHOUT_ID)
+    numbered = take_rows(best_first([pair for pair in fitting if pair.has_id]), with_id)
+    split(unnumbered, SPLIT_PAIRS_WITHOUT_ID)
+    split(numbered, splits - SPLIT_PAIRS_WITHOUT_ID)
+    chosen += unnumbered + numbered
+    share_modules(chosen, len(built_in) + len(chosen) + splits - MODULES, cids)
+    return sorted(chosen, key=lambda pair: (pair.body.id, pair.lens.thumbnail))
+
+
+def ids_of_several_lenses(pairs: list) -> set:
+    """(body, id) that do not tell the lens by themselves."""
     owners = {}
-    for lens in lenses:
-        for lens_id in {one for ids in lens.ids.values() for one in ids}:
-            owners.setdefault(lens_id, set()).add(lens.name)
-    return {lens_id for lens_id, names in owners.items() if len(names) > 1}
+    for pair in pairs:
+        for lens_id in pair.ids:
+            owners.setdefault((pair.body.id, lens_id), set()).add(pair.lens.name)
+    return {key for key, names in owners.items() if len(names) > 1}
+
+
+def name_in_metadata(lens: Lens) -> str:
+    """Canon's cameras leave out the maker; the others write the name as it is shown."""
+    return lens.name.removeprefix("Canon ")
+
+
+def rows_of_pairs(pairs: list, cids: Cids) -> list:
+    """Rows with the lens name in the metadata; those of one pair have a module for each kind of image."""
+    result = []
+    for pair in pairs:
+        lens = pair.lens
+        amin, amax = (lens.widest, NARROWEST_APERTURE) if lens.widest > 0 else (0.0, 0.0)
+        for kind in pair.kinds:
+            cid = cid_of(pair, kind, cids)
+            result += [(cid, pair.body.id, lens.name, lens.fmin, lens.fmax, amin, amax, lens_id, name_in_metadata(lens),
+                        0, *kind, lens.thumbnail) for lens_id in pair.ids]
+    return result
+
+
+def drop_names(table: list, ambiguous: set, count: int) -> list:
+    """Replaces `count` lens names by the word for none, where the id alone tells the lens."""
+    able = [number for number, row in enumerate(table) if row[7] != NONE and (row[1], row[7]) not in ambiguous]
+    require(len(able) >= count, "too few rows can do without the lens name")
+    dropped = set(sorted(able, key=lambda number: rank("name", *map(str, table[number])))[:count])
+    return [row[:8] + (NONE,) + row[9:] if number in dropped else row for number, row in enumerate(table)]
+
+
+def require(held: bool, otherwise: str) -> None:
+    if not held:
+        raise SystemExit(f"makeCatalogue.py: {otherwise}")
 
 
 def read_built_in_ranges() -> dict:
@@ -204,32 +351,21 @@ def read_built_in_ranges() -> dict:
 
 
 def modules(bodies: list) -> list:
-    adapters = {mount: others.split(";") for mount, others in rows("mounts.tsv", 2)}
-    ranges = read_built_in_ranges()
-    built_in = [body for body in bodies if body.built_in]
-    thumbnails = {body.id: number for number, body in enumerate(built_in, 1)}
-    lenses = read_lenses(len(built_in) + 1)
-    shared_ids = ids_of_several_lenses(lenses)
+    bodies = list({body.id: body for body in reversed(bodies)}.values())[::-1]  # one of the names that share an id
     cids = Cids()
-    result = []
-    for body in {body.id: body for body in reversed(bodies)}.values():  # one of the names that share an id
-        if MAKERS[body.maker - 1] == OWN_MAKER:
-            result += own_modules(body, thumbnails[body.id])
-            continue
-        if body.built_in:
-            result += built_in_modules(body, thumbnails[body.id], ranges, cids)
-            continue
-        for lens in lenses:
-            mount = mount_between(body, lens, adapters)
-            if mount:
-                result += lens_modules(body, lens, mount, shared_ids, cids)
-    return sorted(result, key=lambda row: row[1])  # stable: a body's rows keep the order of the lenses
+    built_in = rows_of_built_in_lenses(bodies, cids)
+    lenses = read_lenses(sum(body.built_in for body in bodies) + 1)
+    pairs = choose_pairs(bodies, lenses, built_in, cids)
+    table = rows_of_pairs(pairs, cids)
+    table = drop_names(table, ids_of_several_lenses(pairs), ROWS_WITHOUT_LENS_NAME - len(built_in))
+    return sorted(built_in + table, key=lambda row: row[1])  # stable: a body's rows keep the order of the lenses
 
 
 def write(path: Path) -> None:
+    bodies = read_bodies()
+    table = modules(bodies)
     path.parent.mkdir(parents=True, exist_ok=True)
     path.unlink(missing_ok=True)
-    bodies = read_bodies()
     database = sqlite3.connect(path, isolation_level=None)
     database.execute("PRAGMA page_size = 4096")
     database.execute("PRAGMA journal_mode = MEMORY")
@@ -241,7 +377,7 @@ def write(path: Path) -> None:
     database.executemany("INSERT INTO Body VALUES (?, ?, ?, ?)", (body[:4] for body in bodies))
     database.executemany(
         "INSERT INTO Module (cid, body, name, fmin, fmax, amin, amax, lens_id, lens_name, bridge, raw_only, rgb_only, "
-        "lens_id_thumbnail) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)", modules(bodies))
+        "lens_id_thumbnail) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)", table)
     database.execute("COMMIT")
     database.execute("ANALYZE")
     database.execute("DROP TABLE IF EXISTS sqlite_stat4")  # some builds of the library write it as well

@@ -4,8 +4,11 @@
 #
 # Makes the generated files again from their sources. An ordinary build does not need it: its results are committed.
 # In resources/: the .qm catalogues, the icon of the application, all other icons and pictures with the logo, the
-# slogans and the shadows of the preview, the calibration catalogue and its modules.
+# slogans and the shadows of the preview, the presets with their notes, the film history, the calibration catalogue and
+# its modules.
 # In examples/lightbox/translations/ and tests/look/catalogues/: the .qm catalogues.
+#
+# "regenerate.sh --data" makes the presets, the film history and the calibration alone: python3 is enough for that.
 #
 # Needs, by the names of Debian 12: qt6-l10n-tools (lrelease, lconvert), qt6-translations-l10n,
 # librsvg2-bin (rsvg-convert), python3.
@@ -17,6 +20,18 @@ set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 resources=$root/resources
+
+make_data() { # presets and notes, film history, catalogue and modules
+    python3 "$root/tools/presets/makePresets.py"
+    python3 "$root/tools/timeMachine/makeDecades.py"
+    python3 "$root/tools/calibration/makeCatalogue.py"
+    python3 "$root/tools/calibration/makeModules.py" "$resources/calibration/caf"
+}
+
+if [[ ${1:-} == --data ]]; then
+    make_data
+    exit
+fi
 
 find_tool() { # lrelease or lconvert
     local candidate
@@ -65,8 +80,7 @@ python3 "$root/tools/resources/artwork/makeIcons.py" "$resources"
 python3 "$root/tools/resources/makeShadows.py" "$resources/icons/backgroungs"
 python3 "$root/tools/resources/pictures/makePictures.py" "$resources/icons"
 
-python3 "$root/tools/calibration/makeCatalogue.py"
-python3 "$root/tools/calibration/makeModules.py" "$resources/calibration/caf"
+make_data
 
 make_fonts() {
     local packages
