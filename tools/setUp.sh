@@ -10,12 +10,12 @@ export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,ti
 build_packages=(
     cmake ninja-build ccache g++ pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-5compat-dev libgl-dev libopengl-dev liblog4cplus-dev libminizip-dev
-    zlib1g-dev libcpp-httplib-dev libqt6sql6-sqlite libqt6svg6 qt6-svg-dev fonts-dejavu-core
+    zlib1g-dev libcpp-httplib-dev libexiv2-dev libqt6sql6-sqlite libqt6svg6 qt6-svg-dev fonts-dejavu-core
 )
 test_packages=(
     clang clang-format-14 libclang-rt-14-dev python3 python3-clang-14 binutils
     xvfb xauth xdotool x11-utils zenity
-    libxml2-utils openssl python3-spyne python3-zeep python3-suds gsoap libgsoap-dev libsoap-lite-perl php-cli php-soap
+    libxml2-utils lua5.4 openssl python3-spyne python3-zeep python3-suds gsoap libgsoap-dev libsoap-lite-perl php-cli php-soap
     zip unzip libzip-dev chromium chromium-driver python3-selenium
     qt6-qpa-plugins pkexec dbus-daemon colord libglib2.0-bin gvfs gvfs-daemons
 )

@@ -27,8 +27,8 @@ KEPT_DAYS = 30
 
 # the preset whose build knows the sources of a folder
 PRESETS = {"modules": "dev", "examples": "dev", "tests": "dev", "docs": "dev", "benchmarks": "release", "fuzz": "asan"}
-# sources of other builds: Windows, other processors, and the project of the installation test
-OTHERS = re.compile(r"_win\.cpp$|_plain\.cpp$|/foreignHost/")
+# sources of other builds: Windows, other processors, without a library, and the project of the installation test
+OTHERS = re.compile(r"_win\.cpp$|_plain\.cpp$|Missing\.cpp$|/foreignHost/")
 # what only the other compiler, or a build with precompiled headers, understands
 FOREIGN = re.compile(r" -Winvalid-pch| -fpch-preprocess| (-Xclang )?-include(-pch)? (-Xclang )?\S*cmake_pch\.hxx(\.pch)?"
                      r"| -Xclang -fno-pch-timestamp")
