@@ -146,6 +146,11 @@ void sendReport(ZYX_zglv6::CZipCrashReport &report, const std::function<void(boo
 bool isTextDumpWaiting();
 bool copyThroughArchive(const QDir &from, const QDir &to, const QFileInfo &zipFile);
 
+// embeddedData.cpp
+
+QString note(const QString &presetId, const QString &language);
+QString unpackCatalogue(const QDir &folder);
+
 // files.cpp
 
 QString saveCopy(const QString &photograph, const QString &name);

@@ -4,7 +4,10 @@
 
 #include "support/Sandbox.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryDir>
 #include <QtGui/QPolygonF>
 #include <QtTest/QTest>
 
@@ -26,7 +29,8 @@ QByteArray contentOf(const QString &path)
 
 } // namespace
 
-/*! Runs the examples of the pages on files, on geometry and on the exchange, and looks at what they promise there. */
+/*! Runs the examples of the pages on files, embedded data, geometry and the exchange, and looks at what they promise
+ * there. */
 class tst_FileSnippets : public QObject
 {
     Q_OBJECT
@@ -39,6 +43,9 @@ private Q_SLOTS:
     void handleAt_staysOnTheOutline();
     void answer_comesBackWithTheImage();
     void answer_ofAFailure_hasNoImage();
+    void note_isHtmlInTheLanguage();
+    void unpackCatalogue_isReadableBySQLite();
+    void unpackCatalogue_noFolder_isEmpty();
 
 private:
     TestSupport::Sandbox m_sandbox;
@@ -121,6 +128,31 @@ void tst_FileSnippets::answer_ofAFailure_hasNoImage()
     QCOMPARE(Snippets::readAnswer(path, [&](const char *, std::uint64_t) { isUsed = true; }), 1);
     QVERIFY(!isUsed);
     QVERIFY(!QFile::exists(m_sandbox.filePath(u"failed-image"_qs)));
+}
+
+void tst_FileSnippets::note_isHtmlInTheLanguage()
+{
+    QVERIFY(Snippets::note(u"FujiVelvia50"_qs, u"en"_qs).startsWith(u"<b>Creator:</b> Fuji<br/>"));
+    QVERIFY(Snippets::note(u"FujiVelvia50"_qs, u"zh_CN"_qs).contains(u"</b>Fuji<br/>"));
+    QCOMPARE(Snippets::note(u"noCorrection"_qs, u"en"_qs), QString());
+    QCOMPARE(Snippets::note(u"1839 - Daguerreotype"_qs, u"en"_qs), QString());
+}
+
+void tst_FileSnippets::unpackCatalogue_isReadableBySQLite()
+{
+    const QTemporaryDir folder;
+    const QString path = Snippets::unpackCatalogue(QDir(folder.path()));
+    QCOMPARE(QFileInfo(path).fileName(), u"CAFList5.db"_qs);
+    QVERIFY(contentOf(path).startsWith("SQLite format 3"));
+    QVERIFY(write(path, "older")); // takes the place of another
+    QCOMPARE(Snippets::unpackCatalogue(QDir(folder.path())), path);
+    QVERIFY(contentOf(path).startsWith("SQLite format 3"));
+}
+
+void tst_FileSnippets::unpackCatalogue_noFolder_isEmpty()
+{
+    const QTemporaryDir folder;
+    QCOMPARE(Snippets::unpackCatalogue(QDir(folder.filePath(u"missing"_qs))), QString());
 }
 
 QTEST_MAIN(tst_FileSnippets)
