@@ -8,6 +8,7 @@
 #include "PhotoBar.h"
 #include "PhotoLoader.h"
 #include "PhotoView.h"
+#include "ReferenceMenu.h"
 #include "SettingsPanel.h"
 #include "UnitMenu.h"
 
@@ -69,6 +70,7 @@ CMainWindow::CMainWindow(const QString &photos, QWidget *parent)
 
     addPhotographMenu();
     addViewMenu();
+    addReferenceMenu();
     addHelpMenu();
     registerPanel();
     setCustomStyleSheet(this, QssLoadBaseSheets, QString());
@@ -120,6 +122,13 @@ void CMainWindow::addViewMenu()
     connect(languages, &CLanguageMenu::languageChosen, this, [this](const QString &language) {
         statusBar()->showMessage(tr("%1 will be spoken from the next start on").arg(language));
     });
+}
+
+void CMainWindow::addReferenceMenu()
+{
+    m_reference = new CReferenceMenu(menuBar());
+    menuBar()->addMenu(m_reference);
+    connect(this, &CMainWindow::currentShown, m_reference, [this] { m_reference->setPhoto(m_photos.current()); });
 }
 
 void CMainWindow::addHelpMenu()
@@ -197,6 +206,11 @@ CSettingsPanel &CMainWindow::panel() const
 QAction *CMainWindow::nextAction() const
 {
     return m_next;
+}
+
+CReferenceMenu &CMainWindow::reference() const
+{
+    return *m_reference;
 }
 
 QString CMainWindow::currentPath() const

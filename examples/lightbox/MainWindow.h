@@ -18,6 +18,7 @@
 class CPhotoBar;
 class CPhotoLoader;
 class CPhotoView;
+class CReferenceMenu;
 class CSettingsPanel;
 class QAction;
 class QMenu;
@@ -48,6 +49,7 @@ public:
     QThreadPool &pool();
     CSettingsPanel &panel() const;
     QAction *nextAction() const;
+    CReferenceMenu &reference() const;
     /*! Empty, as its name, if there is none. */
     QString currentPath() const;
     QString currentName() const;
@@ -92,6 +94,7 @@ protected:
 private:
     void addPhotographMenu();
     void addViewMenu();
+    void addReferenceMenu();
     void addHelpMenu();
     void registerPanel();
     QAction *addCommand(QMenu *menu, const QString &text, const QKeySequence &shortcut, const char *slot);
@@ -113,6 +116,7 @@ private:
     CPhotoBar *m_bar;
     CSettingsPanel *m_panel;
     QAction *m_next = nullptr;
+    CReferenceMenu *m_reference = nullptr;
     QSize m_currentSize;
     int m_savedTurns = 0; // what the print was turned by when it was saved
     QUrl m_service;

@@ -4,8 +4,11 @@
 
 #include "DialogsTour.h"
 #include "FilesTour.h"
+#include "FilmHistory.h"
 #include "MainWindow.h"
 #include "PhotoService.h"
+#include "PresetLibrary.h"
+#include "ReferenceTour.h"
 #include "SettingsPanel.h"
 
 #include "common/Look.h"
@@ -128,6 +131,7 @@ void CTour::commandCarriedOut()
     files();
     languages();
     printLine(19, QLatin1StringView("dialogs"), tourDialogs(m_window));
+    references();
     crash();
     Q_EMIT finished(); // keep last
 }
@@ -193,6 +197,17 @@ void CTour::languages()
     languages.changeLanguage(before);
 }
 
+/*! The data within the program. */
+void CTour::references()
+{
+    const CPresetLibrary library;
+    printLine(20, QLatin1StringView("presets"), tourPresets(library));
+    printLine(21, QLatin1StringView("tags"), tourTags(library));
+    printLine(22, QLatin1StringView("note"), tourNote(library));
+    printLine(23, QLatin1StringView("history"), tourHistory(CFilmHistory()));
+    printLine(24, QLatin1StringView("calibration"), tourCalibration(m_window.currentPath()));
+}
+
 /*! Another host like this one dies. It logs to its standard output: this one's log file is open. */
 void CTour::crash()
 {
@@ -204,7 +219,7 @@ void CTour::crash()
                 m_options.photos});
     const qint64 process = host.processId();
     const bool isOver = host.waitForFinished(crashPatienceMs);
-    printLine(20, QLatin1StringView("crash"),
+    printLine(25, QLatin1StringView("crash"),
               isOver ? u"another lightbox %1; it left %2"_qs.arg(deathOf(host), dumpOf(process))
                      : u"another lightbox did not crash: %1"_qs.arg(host.errorString()));
 }

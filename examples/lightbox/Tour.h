@@ -12,7 +12,7 @@ class CMainWindow;
 /*!
     Plays a user who gives commands at good and at bad moments, and prints a line for each thing that the gate for
     commands does with them. Also shows a loading that takes too long, what a service answers, what can be done
-    with files, what a choice of language does, the dialogs, and what a crash leaves.
+    with files, what a choice of language does, the dialogs, the data within the program, and what a crash leaves.
 */
 class CTour final : public QObject
 {
@@ -36,6 +36,7 @@ private:
     void questions();
     void files();
     void languages();
+    void references();
     void crash();
 
     CMainWindow &m_window;

@@ -67,6 +67,6 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     QTimer::singleShot(0, &window, &CMainWindow::showCurrent);
     const int result = CLightboxApplication::exec();
-    printLine(21, QLatin1StringView("left"), u"with %1"_qs.arg(result));
+    printLine(26, QLatin1StringView("left"), u"with %1"_qs.arg(result));
     return result;
 }

@@ -91,7 +91,7 @@ void tst_CrashDump::crash_endsTheProcessThatWay()
     QCOMPARE(int(host.exitStatus), status);
     QCOMPARE(host.exitCode, code);
     QVERIFY2(host.step(9).endsWith(u"no state stored yet"), qPrintable(host.errors)); // it had come up
-    QCOMPARE(host.step(21), u"0 lines for step 21"_qs); // and did not leave
+    QCOMPARE(host.step(26), u"0 lines for step 26"_qs); // and did not leave
     QCOMPARE(m_folder->dumps().size(), 1);
     QVERIFY(!host.errors.contains(u"Sanitizer"));
 }
@@ -278,9 +278,9 @@ void tst_CrashDump::tour_showsHowAnotherHostDies()
     const QStringList dumps = m_folder->dumps();
     QCOMPARE(dumps.size(), 1);
     const QFileInfo dump(dumps.front());
-    QVERIFY2(host.step(20).endsWith(u" another lightbox crashed with 11; it left %1 of %2 bytes"_qs.arg(
+    QVERIFY2(host.step(25).endsWith(u" another lightbox crashed with 11; it left %1 of %2 bytes"_qs.arg(
                  dump.fileName(), QString::number(dump.size()))),
-             qPrintable(host.step(20)));
+             qPrintable(host.step(25)));
     QVERIFY(dump.size() > 1000);
     QCOMPARE(QDir(m_folder->logs()).entryList(QDir::Files), QStringList(u"lightbox.txt"_qs)); // not rolled over
 }

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void tourOfANameThatIsNotValid_copiesUnderAnother();
     void tour_showsWhatAChoiceOfLanguageDoes();
     void tour_showsTheDialogs();
+    void tour_showsTheDataWithinTheProgram();
     void chosenLanguage_staysForLaterStarts();
     void secondTour_findsThePanelAsTheFirstLeftIt();
     void tourWithAService_showsAnswerFaultAndRefusal();
@@ -118,7 +119,7 @@ void tst_Lightbox::start_printsOneLineForEachStep()
     QVERIFY(!first.step(7).endsWith(u" 0x0"));
     QVERIFY2(first.step(8).contains(u"the first, last mode \"\", user "), qPrintable(first.step(8)));
     QVERIFY(first.step(9).endsWith(u" no state stored yet"));
-    QVERIFY(first.step(21).endsWith(u" with 0"));
+    QVERIFY(first.step(26).endsWith(u" with 0"));
     QCOMPARE(first.lines.size(), 11); // the logger has a line of its own
     QVERIFY(QFile::exists(dataFolder() + u"Logs/lightbox.txt"));
 }
@@ -255,6 +256,25 @@ void tst_Lightbox::tour_showsTheDialogs()
 #ifndef Q_OS_WIN // where the installer's place is a key for all users, which the examples leave alone
     QVERIFY2(match.captured(3).toInt() > 50'000, qPrintable(host.step(19)));
 #endif
+}
+
+void tst_Lightbox::tour_showsTheDataWithinTheProgram()
+{
+    const Run host = run({u"--tour"_qs});
+    QVERIFY2(host.isClean, qPrintable(host.errors));
+    QCOMPARE(host.step(20), u"20 presets     229, of which 226 are looks and 150 are for experts; 139 notes"_qs);
+    QCOMPARE(
+        host.step(21),
+        u"21 tags        Color 84, Film 84, TimeMachine 78, B&W 64, Negative 53, Designer 39, Slide 31, Digital 19, "
+        "Toned 17, Vignette 13, Grain 12, Cinematic 6, Frame 6"_qs);
+    static const QRegularExpression note(u"^22 note        [^:]+: Creator: [^:]+$"_qs);
+    QVERIFY2(note.match(host.step(22)).hasMatch(), qPrintable(host.step(22)));
+    QCOMPARE(host.step(23),
+             u"23 history     14 decades from \"19 Century\" to \"2010 - 2020\" with 214 films and 73 events"_qs);
+    static const QRegularExpression module(
+        u"^24 calibration (lighthouse\\.jpg, Canon EOS 5D Mark IV, EF24-70mm f/2\\.8L II USM, 35 mm: "
+        "C\\d{3,5}[a-z]_\\d{3}\\.caf|not in this build)$"_qs);
+    QVERIFY2(module.match(host.step(24)).hasMatch(), qPrintable(host.step(24)));
 }
 
 void tst_Lightbox::chosenLanguage_staysForLaterStarts()

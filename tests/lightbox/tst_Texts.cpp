@@ -200,7 +200,8 @@ void tst_Texts::translations_areWrittenInTheirLanguage_data()
 void tst_Texts::translations_areWrittenInTheirLanguage()
 {
     QFETCH(const QString, language);
-    const QStringList common{u"JPEG (*.jpg)"_qs, u"PNG (*.png)"_qs, u"&Support"_qs, u"Sho&p"_qs, u"&Pixels"_qs};
+    const QStringList common{u"JPEG (*.jpg)"_qs, u"PNG (*.png)"_qs, u"&Support"_qs, u"Sho&p"_qs,
+                             u"&Pixels"_qs,      u"Grain"_qs,       u"Film"_qs,     u"Digital"_qs};
     for (const CatalogueEntry &entry : entriesOf(language)) {
         QVERIFY2(common.contains(entry.source) || entry.translations.value(0) != entry.source,
                  qPrintable(keyOf(entry)));

@@ -237,7 +237,7 @@ void tst_WindowTexts::acceleratorsOfAMenu_areDistinct()
     speak(language);
     const CMainWindow window(m_empty.path());
     const QList<QList<QAction *>> menus = menusOf(window.menuBar()->actions());
-    QCOMPARE(menus.size(), 5); // the bar, photograph, view, units, help
+    QCOMPARE(menus.size(), 6); // the bar, photograph, view, units, reference, help
     for (const QList<QAction *> &menu : menus) {
         QList<QKeySequence> accelerators;
         for (const QAction *action : menu) {

@@ -5,6 +5,8 @@
 
 Usage: makeSamples.py [folder]
 
+The lighthouse tells a camera and a lens that the catalogue of calibration modules has; the lake tells none.
+
 Needs numpy and Pillow (Debian: python3-numpy, python3-pil). The pictures are computed, nothing is taken from a photograph.
 Pixels are linear light in arrays of height x width x 3 until develop() gives them film-like tones, grain and a vignette.
 """
@@ -17,6 +19,9 @@ from PIL import Image, ImageFilter
 
 DEFAULT_FOLDER = Path(__file__).resolve().parents[2] / "examples" / "lightbox" / "samples"
 QUALITY = 84
+
+# Tags of Exif.
+MAKE, MODEL, EXIF_FOLDER, FOCAL_LENGTH, LENS_MODEL = 0x010F, 0x0110, 0x8769, 0x920A, 0xA434
 
 
 def smooth(edge0, edge1, x):
@@ -271,11 +276,20 @@ def lighthouse():
     return develop(rng, picture, vignette=0.35)
 
 
+def camera_data():
+    data = Image.Exif()
+    data[MAKE] = "Canon"
+    data[MODEL] = "Canon EOS 5D Mark IV"
+    data[EXIF_FOLDER] = {FOCAL_LENGTH: 35.0, LENS_MODEL: "EF24-70mm f/2.8L II USM"}
+    return data
+
+
 def main():
     folder = Path(sys.argv[1]) if len(sys.argv) > 1 else DEFAULT_FOLDER
     folder.mkdir(parents=True, exist_ok=True)
-    for name, render in (("mountain-lake.jpg", mountain_lake), ("lighthouse.jpg", lighthouse)):
-        render().save(folder / name, quality=QUALITY, optimize=True, subsampling="4:2:0")
+    for name, render, data in (("mountain-lake.jpg", mountain_lake, b""),
+                               ("lighthouse.jpg", lighthouse, camera_data())):
+        render().save(folder / name, quality=QUALITY, optimize=True, subsampling="4:2:0", exif=data)
 
 
 if __name__ == "__main__":

@@ -331,4 +331,244 @@
         <translation>&amp;Millimeter</translation>
     </message>
 </context>
+<context>
+    <name>CXmlFile</name>
+    <message>
+        <source>“%1” stands where “%2” is expected</source>
+        <translation>„%1“ steht, wo „%2“ erwartet wird</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>“%1” has no “%2”</source>
+        <translation>„%1“ hat kein „%2“</translation>
+    </message>
+    <message>
+        <source>“%1” is not Base64 of a text</source>
+        <translation>„%1“ ist kein Base64 eines Textes</translation>
+    </message>
+</context>
+<context>
+    <name>CFilmHistory</name>
+    <message>
+        <source>“%1” is no number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>CPresetBrowser</name>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Time machine</source>
+        <translation>Zeitmaschine</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>Negativ</translation>
+    </message>
+    <message>
+        <source>Designer</source>
+        <translation>Designerlook</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>Dia</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>Digital</translation>
+    </message>
+    <message>
+        <source>Toned</source>
+        <translation>Getont</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Vignettierung</translation>
+    </message>
+    <message>
+        <source>Grain</source>
+        <translation>Korn</translation>
+    </message>
+    <message>
+        <source>Cinematic</source>
+        <translation>Kinolook</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Also presets of the expert mode</source>
+        <translation>Auch Voreinstellungen des Expertenmodus</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Presets shown: %1</source>
+        <translation>Angezeigte Voreinstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Tags: %1</source>
+        <translation>Schlagwörter: %1</translation>
+    </message>
+    <message>
+        <source>Parameters: %1</source>
+        <translation>Parameter: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CTimeLine</name>
+    <message>
+        <source>Film history</source>
+        <translation>Geschichte des Films</translation>
+    </message>
+    <message>
+        <source>The decade before</source>
+        <translation>Das Jahrzehnt davor</translation>
+    </message>
+    <message>
+        <source>The next decade</source>
+        <translation>Das nächste Jahrzehnt</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>To try: %1</source>
+        <translation>Zum Ausprobieren: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationCatalogue</name>
+    <message>
+        <source>The catalogue can&apos;t be copied to %1: %2</source>
+        <translation>Der Katalog kann nicht nach %1 kopiert werden: %2</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be opened: %1</source>
+        <translation>Der Katalog kann nicht geöffnet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationPanel</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>RAW only</source>
+        <translation>Nur RAW</translation>
+    </message>
+    <message>
+        <source>RGB only</source>
+        <translation>Nur RGB</translation>
+    </message>
+    <message>
+        <source>RAW and RGB</source>
+        <translation>RAW und RGB</translation>
+    </message>
+    <message>
+        <source>Calibration modules</source>
+        <translation>Kalibrierungsmodule</translation>
+    </message>
+    <message>
+        <source>No photograph is open</source>
+        <translation>Kein Foto geöffnet</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>Modul</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Brennweite</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its camera</source>
+        <translation>Das Foto nennt keine Kamera</translation>
+    </message>
+    <message>
+        <source>These modules serve it:</source>
+        <translation>Diese Module passen dazu:</translation>
+    </message>
+    <message>
+        <source>No module of this camera serves the photograph</source>
+        <translation>Kein Modul dieser Kamera passt zu dem Foto</translation>
+    </message>
+    <message>
+        <source>No module serves this lens here. The camera has these:</source>
+        <translation>Für dieses Objektiv passt hier kein Modul. Die Kamera hat diese:</translation>
+    </message>
+    <message>
+        <source>The catalogue does not have this camera</source>
+        <translation>Der Katalog kennt diese Kamera nicht</translation>
+    </message>
+</context>
+<context>
+    <name>CPhotoMetadata</name>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CReferenceMenu</name>
+    <message>
+        <source>&amp;Reference</source>
+        <translation>&amp;Nachschlagen</translation>
+    </message>
+    <message>
+        <source>&amp;Presets</source>
+        <translation>&amp;Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Film history</source>
+        <translation>&amp;Geschichte des Films</translation>
+    </message>
+    <message>
+        <source>&amp;Calibration modules</source>
+        <translation>&amp;Kalibrierungsmodule</translation>
+    </message>
+</context>
 </TS>

@@ -331,4 +331,244 @@
         <translation>&amp;Millimètres</translation>
     </message>
 </context>
+<context>
+    <name>CXmlFile</name>
+    <message>
+        <source>“%1” stands where “%2” is expected</source>
+        <translation>« %1 » se trouve là où « %2 » est attendu</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>Impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>“%1” has no “%2”</source>
+        <translation>« %1 » n’a pas de « %2 »</translation>
+    </message>
+    <message>
+        <source>“%1” is not Base64 of a text</source>
+        <translation>« %1 » n’est pas un texte en Base64</translation>
+    </message>
+</context>
+<context>
+    <name>CFilmHistory</name>
+    <message>
+        <source>“%1” is no number</source>
+        <translation>« %1 » n’est pas un nombre</translation>
+    </message>
+</context>
+<context>
+    <name>CPresetBrowser</name>
+    <message>
+        <source>Film</source>
+        <translation>Pellicule</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Time machine</source>
+        <translation>Machine à remonter le temps</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Noir et blanc</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>Négatif</translation>
+    </message>
+    <message>
+        <source>Designer</source>
+        <translation>Créateur</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>Diapositive</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>Numérique</translation>
+    </message>
+    <message>
+        <source>Toned</source>
+        <translation>Viré</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Vignettage</translation>
+    </message>
+    <message>
+        <source>Grain</source>
+        <translation>Grain</translation>
+    </message>
+    <message>
+        <source>Cinematic</source>
+        <translation>Cinéma</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Also presets of the expert mode</source>
+        <translation>Aussi les préréglages du mode expert</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Presets shown: %1</source>
+        <translation>Préréglages affichés : %1</translation>
+    </message>
+    <message>
+        <source>Tags: %1</source>
+        <translation>Étiquettes : %1</translation>
+    </message>
+    <message>
+        <source>Parameters: %1</source>
+        <translation>Paramètres : %1</translation>
+    </message>
+</context>
+<context>
+    <name>CTimeLine</name>
+    <message>
+        <source>Film history</source>
+        <translation>Histoire du film photographique</translation>
+    </message>
+    <message>
+        <source>The decade before</source>
+        <translation>La décennie précédente</translation>
+    </message>
+    <message>
+        <source>The next decade</source>
+        <translation>La décennie suivante</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films de l’époque</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>To try: %1</source>
+        <translation>À essayer : %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationCatalogue</name>
+    <message>
+        <source>The catalogue can&apos;t be copied to %1: %2</source>
+        <translation>Impossible de copier le catalogue dans %1 : %2</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be opened: %1</source>
+        <translation>Impossible d’ouvrir le catalogue : %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationPanel</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>RAW only</source>
+        <translation>RAW seulement</translation>
+    </message>
+    <message>
+        <source>RGB only</source>
+        <translation>RVB seulement</translation>
+    </message>
+    <message>
+        <source>RAW and RGB</source>
+        <translation>RAW et RVB</translation>
+    </message>
+    <message>
+        <source>Calibration modules</source>
+        <translation>Modules d’étalonnage</translation>
+    </message>
+    <message>
+        <source>No photograph is open</source>
+        <translation>Aucune photographie ouverte</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>Fichier du module</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Distance focale</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its camera</source>
+        <translation>La photographie n’indique pas son appareil</translation>
+    </message>
+    <message>
+        <source>These modules serve it:</source>
+        <translation>Modules qui conviennent :</translation>
+    </message>
+    <message>
+        <source>No module of this camera serves the photograph</source>
+        <translation>Aucun module de cet appareil ne convient à la photo</translation>
+    </message>
+    <message>
+        <source>No module serves this lens here. The camera has these:</source>
+        <translation>Aucun module ne convient ici à cet objectif. L’appareil dispose de :</translation>
+    </message>
+    <message>
+        <source>The catalogue does not have this camera</source>
+        <translation>Le catalogue ne connaît pas cet appareil</translation>
+    </message>
+</context>
+<context>
+    <name>CPhotoMetadata</name>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>Impossible de lire %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>CReferenceMenu</name>
+    <message>
+        <source>&amp;Reference</source>
+        <translation>&amp;Référence</translation>
+    </message>
+    <message>
+        <source>&amp;Presets</source>
+        <translation>&amp;Préréglages</translation>
+    </message>
+    <message>
+        <source>&amp;Film history</source>
+        <translation>&amp;Histoire du film photographique</translation>
+    </message>
+    <message>
+        <source>&amp;Calibration modules</source>
+        <translation>Modules d’é&amp;talonnage</translation>
+    </message>
+</context>
 </TS>

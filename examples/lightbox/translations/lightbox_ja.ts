@@ -331,4 +331,244 @@
         <translation>ミリメートル(&amp;M)</translation>
     </message>
 </context>
+<context>
+    <name>CXmlFile</name>
+    <message>
+        <source>“%1” stands where “%2” is expected</source>
+        <translation>「%2」があるべき所に「%1」があります</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1、%2行目: %3</translation>
+    </message>
+    <message>
+        <source>“%1” has no “%2”</source>
+        <translation>「%1」に「%2」がありません</translation>
+    </message>
+    <message>
+        <source>“%1” is not Base64 of a text</source>
+        <translation>「%1」はテキストの Base64 ではありません</translation>
+    </message>
+</context>
+<context>
+    <name>CFilmHistory</name>
+    <message>
+        <source>“%1” is no number</source>
+        <translation>「%1」は数値ではありません</translation>
+    </message>
+</context>
+<context>
+    <name>CPresetBrowser</name>
+    <message>
+        <source>Film</source>
+        <translation>フィルム</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Time machine</source>
+        <translation>タイムマシン</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>ネガ</translation>
+    </message>
+    <message>
+        <source>Designer</source>
+        <translation>デザイナー</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>リバーサル</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>デジタル</translation>
+    </message>
+    <message>
+        <source>Toned</source>
+        <translation>調色</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>周辺減光</translation>
+    </message>
+    <message>
+        <source>Grain</source>
+        <translation>粒状感</translation>
+    </message>
+    <message>
+        <source>Cinematic</source>
+        <translation>映画調</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Also presets of the expert mode</source>
+        <translation>エキスパートモードのプリセットも表示</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Presets shown: %1</source>
+        <translation>表示中のプリセット: %1</translation>
+    </message>
+    <message>
+        <source>Tags: %1</source>
+        <translation>タグ: %1</translation>
+    </message>
+    <message>
+        <source>Parameters: %1</source>
+        <translation>パラメーター: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CTimeLine</name>
+    <message>
+        <source>Film history</source>
+        <translation>フィルムの歴史</translation>
+    </message>
+    <message>
+        <source>The decade before</source>
+        <translation>前の年代</translation>
+    </message>
+    <message>
+        <source>The next decade</source>
+        <translation>次の年代</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>フィルム</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>出来事</translation>
+    </message>
+    <message>
+        <source>To try: %1</source>
+        <translation>試してみる: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationCatalogue</name>
+    <message>
+        <source>The catalogue can&apos;t be copied to %1: %2</source>
+        <translation>カタログを%1にコピーできません: %2</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be opened: %1</source>
+        <translation>カタログを開けません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationPanel</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>RAW only</source>
+        <translation>RAW のみ</translation>
+    </message>
+    <message>
+        <source>RGB only</source>
+        <translation>RGB のみ</translation>
+    </message>
+    <message>
+        <source>RAW and RGB</source>
+        <translation>RAW と RGB</translation>
+    </message>
+    <message>
+        <source>Calibration modules</source>
+        <translation>補正モジュール</translation>
+    </message>
+    <message>
+        <source>No photograph is open</source>
+        <translation>写真が開かれていません</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>モジュール</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>レンズ</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>焦点距離</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its camera</source>
+        <translation>写真にカメラの情報がありません</translation>
+    </message>
+    <message>
+        <source>These modules serve it:</source>
+        <translation>使用できるモジュール:</translation>
+    </message>
+    <message>
+        <source>No module of this camera serves the photograph</source>
+        <translation>このカメラのモジュールで、この写真に対応するものはありません</translation>
+    </message>
+    <message>
+        <source>No module serves this lens here. The camera has these:</source>
+        <translation>ここでこのレンズに対応するモジュールはありません。このカメラには次のものがあります:</translation>
+    </message>
+    <message>
+        <source>The catalogue does not have this camera</source>
+        <translation>このカメラはカタログにありません</translation>
+    </message>
+</context>
+<context>
+    <name>CPhotoMetadata</name>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1を読み込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CReferenceMenu</name>
+    <message>
+        <source>&amp;Reference</source>
+        <translation>資料(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Presets</source>
+        <translation>プリセット(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Film history</source>
+        <translation>フィルムの歴史(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Calibration modules</source>
+        <translation>補正モジュール(&amp;C)</translation>
+    </message>
+</context>
 </TS>

@@ -331,4 +331,244 @@
         <translation>毫米(&amp;M)</translation>
     </message>
 </context>
+<context>
+    <name>CXmlFile</name>
+    <message>
+        <source>“%1” stands where “%2” is expected</source>
+        <translation>应为“%2”的位置出现了“%1”</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1，第 %2 行：%3</translation>
+    </message>
+    <message>
+        <source>“%1” has no “%2”</source>
+        <translation>“%1”缺少“%2”</translation>
+    </message>
+    <message>
+        <source>“%1” is not Base64 of a text</source>
+        <translation>“%1”不是文本的 Base64 编码</translation>
+    </message>
+</context>
+<context>
+    <name>CFilmHistory</name>
+    <message>
+        <source>“%1” is no number</source>
+        <translation>“%1”不是数字</translation>
+    </message>
+</context>
+<context>
+    <name>CPresetBrowser</name>
+    <message>
+        <source>Film</source>
+        <translation>胶片</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>Time machine</source>
+        <translation>时光机</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>黑白</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>负片</translation>
+    </message>
+    <message>
+        <source>Designer</source>
+        <translation>设计师</translation>
+    </message>
+    <message>
+        <source>Slide</source>
+        <translation>反转片</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>数码</translation>
+    </message>
+    <message>
+        <source>Toned</source>
+        <translation>调色</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>暗角</translation>
+    </message>
+    <message>
+        <source>Grain</source>
+        <translation>颗粒</translation>
+    </message>
+    <message>
+        <source>Cinematic</source>
+        <translation>电影感</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>边框</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Also presets of the expert mode</source>
+        <translation>同时显示专家模式的预设</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Presets shown: %1</source>
+        <translation>显示的预设：%1</translation>
+    </message>
+    <message>
+        <source>Tags: %1</source>
+        <translation>标签：%1</translation>
+    </message>
+    <message>
+        <source>Parameters: %1</source>
+        <translation>参数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CTimeLine</name>
+    <message>
+        <source>Film history</source>
+        <translation>胶片历史</translation>
+    </message>
+    <message>
+        <source>The decade before</source>
+        <translation>上一个年代</translation>
+    </message>
+    <message>
+        <source>The next decade</source>
+        <translation>下一个年代</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>胶片</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>To try: %1</source>
+        <translation>可尝试：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationCatalogue</name>
+    <message>
+        <source>The catalogue can&apos;t be copied to %1: %2</source>
+        <translation>无法将校准数据库复制到 %1：%2</translation>
+    </message>
+    <message>
+        <source>The catalogue can&apos;t be opened: %1</source>
+        <translation>无法打开校准数据库：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CCalibrationPanel</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>RAW only</source>
+        <translation>仅 RAW</translation>
+    </message>
+    <message>
+        <source>RGB only</source>
+        <translation>仅 RGB</translation>
+    </message>
+    <message>
+        <source>RAW and RGB</source>
+        <translation>RAW 和 RGB</translation>
+    </message>
+    <message>
+        <source>Calibration modules</source>
+        <translation>校准模块</translation>
+    </message>
+    <message>
+        <source>No photograph is open</source>
+        <translation>未打开照片</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>模块</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>镜头</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>焦距</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its camera</source>
+        <translation>照片中没有相机信息</translation>
+    </message>
+    <message>
+        <source>These modules serve it:</source>
+        <translation>适用的模块：</translation>
+    </message>
+    <message>
+        <source>No module of this camera serves the photograph</source>
+        <translation>此相机没有适用于这张照片的模块</translation>
+    </message>
+    <message>
+        <source>No module serves this lens here. The camera has these:</source>
+        <translation>没有适用于此镜头的模块。此相机有以下模块：</translation>
+    </message>
+    <message>
+        <source>The catalogue does not have this camera</source>
+        <translation>校准数据库中没有此相机</translation>
+    </message>
+</context>
+<context>
+    <name>CPhotoMetadata</name>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>CReferenceMenu</name>
+    <message>
+        <source>&amp;Reference</source>
+        <translation>参考(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Presets</source>
+        <translation>预设(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Film history</source>
+        <translation>胶片历史(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Calibration modules</source>
+        <translation>校准模块(&amp;C)</translation>
+    </message>
+</context>
 </TS>

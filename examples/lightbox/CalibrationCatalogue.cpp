@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The UtilsDllzglv6 authors
+// SPDX-License-Identifier: MIT
+#include "CalibrationCatalogue.h"
+
+#include "storageLocation/storageLocation.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QUuid>
+#include <QtCore/QVariant>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+
+#include <algorithm>
+#include <optional>
+
+using ZYX_zglv6::CStorageLocation;
+
+namespace {
+
+constexpr QLatin1StringView catalogueFolder(":/calibration/db/");
+constexpr QLatin1StringView driver("QSQLITE");
+
+// By the index of identifiers; the second one goes through the few hundred bodies.
+constexpr QLatin1StringView bodyByIndex("SELECT id, identifier FROM Body WHERE identifier = ?");
+constexpr QLatin1StringView bodyWithoutCase("SELECT id, identifier FROM Body WHERE identifier = ? COLLATE NOCASE");
+
+// By the index of bodies, or of lens ids. Cameras tell a focal length in other fractions than the three decimals of the
+// catalogue.
+constexpr QLatin1StringView
+    moduleForm("SELECT DISTINCT cid, name, fmin, fmax, raw_only, rgb_only FROM Module WHERE body = :body"
+               " AND (:anyFocal OR :focal BETWEEN fmin - 0.0006 AND fmax + 0.0006) AND %1 = 0%2 ORDER BY name, cid");
+
+// The word 'NULL' is a text of the catalogue: the lens tells no id, or no name.
+constexpr QLatin1StringView lensByBoth(" AND (bridge = 1 OR ((:id = '' OR lens_id IN ('NULL', :id))"
+                                       " AND (:name = '' OR lens_name = 'NULL' OR lens_name = :name COLLATE NOCASE)"
+                                       " AND ((:id <> 'NULL' AND lens_id = :id)"
+                                       " OR (:name <> 'NULL' COLLATE NOCASE AND lens_name = :name COLLATE NOCASE))))");
+
+constexpr QLatin1StringView lensByName(" AND lens_name = :name COLLATE NOCASE");
+constexpr QLatin1StringView lensById(" AND lens_id = :id");
+constexpr QLatin1StringView anyLens;
+
+struct Body
+{
+    qint64 id = 0;
+    QString identifier;
+};
+
+/*! No body, or the error of the database. */
+std::optional<Body> bodyOf(const QSqlDatabase &database, QLatin1StringView statement, const QString &identifier,
+                           QString &error)
+{
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    query.prepare(statement);
+    query.addBindValue(identifier);
+    if (!query.exec()) {
+        error = query.lastError().text();
+        return {};
+    }
+    return query.next() ? std::optional(Body{query.value(0).toLongLong(), query.value(1).toString()}) : std::nullopt;
+}
+
+std::optional<Body> firstBodyOf(const QSqlDatabase &database, const QStringList &identifiers, QString &error)
+{
+    for (const QString &identifier : identifiers) {
+        for (const QLatin1StringView statement : {bodyByIndex, bodyWithoutCase}) {
+            std::optional<Body> body = bodyOf(database, statement, identifier, error);
+            if (body || !error.isEmpty()) {
+                return body;
+            }
+        }
+    }
+    return {};
+}
+
+QString moduleStatement(ImageKind kind, QLatin1StringView lens)
+{
+    return QString(moduleForm).arg(kind == ImageKind::Raw ? u"rgb_only"_qs : u"raw_only"_qs, QString(lens));
+}
+
+/*! How a lens is looked for, the surest first. Some cameras tell an id that many lenses share, or a name of their own.
+ */
+QList<QLatin1StringView> lensConditions(const CalibrationQuery &wanted)
+{
+    QList<QLatin1StringView> conditions{lensByBoth};
+    if (!wanted.lensName.isEmpty() && wanted.lensName.compare(u"NULL", Qt::CaseInsensitive) != 0) {
+        conditions.append(lensByName);
+    }
+    if (!wanted.lensId.isEmpty() && wanted.lensId != u"NULL") {
+        conditions.append(lensById);
+    }
+    return conditions;
+}
+
+QList<CalibrationModule> modulesIn(QSqlQuery &query)
+{
+    QList<CalibrationModule> modules;
+    while (query.next()) {
+        modules.append({query.value(0).toString(), query.value(1).toString(), query.value(2).toDouble(),
+                        query.value(3).toDouble(), query.value(4).toBool(), query.value(5).toBool()});
+    }
+    return modules;
+}
+
+bool isOneLens(const QList<CalibrationModule> &modules)
+{
+    return std::all_of(modules.cbegin(), modules.cend(), [&modules](const CalibrationModule &module) {
+        return module.lens == modules.constFirst().lens;
+    });
+}
+
+/*! Those of the body at the focal length for the image's kind; the condition \a lens narrows them further. */
+QList<CalibrationModule> modulesOf(const QSqlDatabase &database, const Body &body, const CalibrationQuery &wanted,
+                                   QLatin1StringView lens, QString &error)
+{
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    query.prepare(moduleStatement(wanted.kind, lens));
+    query.bindValue(u":body"_qs, body.id);
+    query.bindValue(u":anyFocal"_qs, wanted.focalLength <= 0.0 ? 1 : 0);
+    query.bindValue(u":focal"_qs, wanted.focalLength);
+    if (lens.contains(u":id")) {
+        query.bindValue(u":id"_qs, wanted.lensId.isNull() ? u""_qs : wanted.lensId);
+    }
+    if (lens.contains(u":name")) {
+        query.bindValue(u":name"_qs, wanted.lensName.isNull() ? u""_qs : wanted.lensName);
+    }
+    if (!query.exec()) {
+        error = query.lastError().text();
+        return {};
+    }
+    return modulesIn(query);
+}
+
+} // namespace
+
+struct CCalibrationCatalogue::Copy
+{
+    explicit Copy(const QString &workFolder)
+        : folder(QDir(workFolder).filePath(u"calibration-XXXXXX"_qs))
+        , path(folder.filePath(CStorageLocation::getCafDbFileNameDefault()))
+        , connection(QUuid::createUuid().toString())
+    {
+    }
+
+    ~Copy()
+    {
+        QSqlDatabase::removeDatabase(connection); // before its file goes; one that was never added is no error
+    }
+
+    Q_DISABLE_COPY_MOVE(Copy)
+
+    QTemporaryDir folder;
+    const QString path;
+    const QString connection;
+};
+
+QString CalibrationModule::fileName() const
+{
+    return cid + u".caf";
+}
+
+CCalibrationCatalogue::CCalibrationCatalogue(const QString &workFolder)
+    : m_copy(std::make_unique<Copy>(workFolder))
+{
+    open(workFolder);
+}
+
+CCalibrationCatalogue::~CCalibrationCatalogue() = default;
+
+QStringList CCalibrationCatalogue::statements()
+{
+    QStringList all{bodyByIndex};
+    for (const QLatin1StringView lens : {lensByBoth, lensByName, lensById, anyLens}) {
+        all.append(moduleStatement(ImageKind::Rgb, lens));
+    }
+    return all;
+}
+
+const QString &CCalibrationCatalogue::error() const
+{
+    return m_error;
+}
+
+void CCalibrationCatalogue::open(const QString &workFolder)
+{
+    QFile catalogue(catalogueFolder + CStorageLocation::getCafDbFileNameDefault());
+    if (!m_copy->folder.isValid() || !catalogue.copy(m_copy->path)) {
+        m_error = QCoreApplication::translate("CCalibrationCatalogue", "The catalogue can't be copied to %1: %2")
+                      .arg(QDir::toNativeSeparators(workFolder),
+                           m_copy->folder.isValid() ? catalogue.errorString() : m_copy->folder.errorString());
+        return;
+    }
+    QSqlDatabase database = QSqlDatabase::addDatabase(driver, m_copy->connection);
+    database.setDatabaseName(m_copy->path);
+    database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_qs);
+    if (!database.open()) {
+        m_error = QCoreApplication::translate("CCalibrationCatalogue", "The catalogue can't be opened: %1")
+                      .arg(database.lastError().text());
+    }
+}
+
+CalibrationAnswer CCalibrationCatalogue::find(const CalibrationQuery &query) const
+{
+    CalibrationAnswer answer{CalibrationAnswer::Failed, {}, {}, m_error};
+    if (!m_error.isEmpty()) {
+        return answer;
+    }
+    const QSqlDatabase database = QSqlDatabase::database(m_copy->connection);
+    const std::optional<Body> body = firstBodyOf(database, query.bodies, answer.error);
+    if (!body) {
+        answer.state = answer.error.isEmpty() ? CalibrationAnswer::BodyUnknown : CalibrationAnswer::Failed;
+        return answer;
+    }
+    answer.body = body->identifier;
+    answer.state = CalibrationAnswer::Served;
+    for (const QLatin1StringView lens : lensConditions(query)) {
+        answer.modules = modulesOf(database, *body, query, lens, answer.error);
+        if (lens == lensById && !isOneLens(answer.modules)) {
+            answer.modules.clear(); // the name is of none of them
+        }
+        if (!answer.modules.isEmpty() || !answer.error.isEmpty()) {
+            break;
+        }
+    }
+    if (answer.modules.isEmpty() && answer.error.isEmpty()) {
+        answer.modules = modulesOf(database, *body, query, anyLens, answer.error);
+        answer.state = CalibrationAnswer::LensUnknown;
+    }
+    if (!answer.error.isEmpty()) {
+        answer.state = CalibrationAnswer::Failed;
+    }
+    return answer;
+}
