@@ -31,6 +31,7 @@ private Q_SLOTS:
     void looks_have6To83Parameters();
     void tags_areUsed_data();
     void tags_areUsed();
+    void cinematicLooks_areThese();
     void ampersand_isEscapedAndReadPlain();
     void astia_isTwoPresets();
     void makersTwoSpellings_standSideBySide();
@@ -166,6 +167,19 @@ void tst_PresetFiles::tags_areUsed()
         count += name == u"any" ? tags(preset).size() : tags(preset).count(name);
     }
     QCOMPARE(count, uses);
+}
+
+void tst_PresetFiles::cinematicLooks_areThese()
+{
+    QStringList ids;
+    for (const XmlElement &preset : presets().children) {
+        if (tags(preset).contains(u"Cinematic"_qs)) {
+            ids.append(preset.attributes.value(u"id"_qs));
+        }
+    }
+    QCOMPARE(ids,
+             (QStringList{u"CineTealAndPink"_qs, u"CineDesaturatedGreen"_qs, u"CineAutumn"_qs, u"CineMoodyDarkGreen"_qs,
+                          u"CinePastel"_qs, u"CineTealAndOrange"_qs}));
 }
 
 void tst_PresetFiles::ampersand_isEscapedAndReadPlain()

@@ -144,6 +144,8 @@ void tst_PresetNotes::leftovers_stayAsTheyWere()
     for (const QString &language : languages) {
         QCOMPARE(title(leftover, language), expectedTitle);
         QCOMPARE(description(leftover, language), expectedDescription);
+        // what is no Base64 would be empty, too
+        QCOMPARE(leftover.child(u"description_"_qs + language).text.isEmpty(), expectedDescription.isEmpty());
     }
 }
 

@@ -29,6 +29,10 @@ OWN_MODEL = "Grainlab Reference"
 OWN_FOCAL_LENGTH = 35.0
 OWN_RAW_CID = "C33759b_023"
 OWN_RGB_CID = "C34062a_011"
+KNOWN_CIDS = {  # those that documentation gives as examples: body, lens and kind of their modules
+    ("CanonEOS5DMarkIV", "Canon EF8-15mm f/4L Fisheye USM", "(1, 0)"): "C24560b_001",
+    ("AppleIPhone5S", "iPhone 5s Lens", "(0, 1)"): "C1000a_001",
+}
 
 MAKERS = [
     "Apple", "Canon", "DJI", "Fujifilm", "GoPro", "Hasselblad", "Kodak", "Konica", "Leica", "Nikon", "Nokia", "Olympus",
@@ -171,9 +175,11 @@ class Cids:
     """Gives each module an identifier that does not move when other modules are added, barring a collision."""
 
     def __init__(self):
-        self._taken = {OWN_RAW_CID, OWN_RGB_CID}
+        self._taken = {OWN_RAW_CID, OWN_RGB_CID, *KNOWN_CIDS.values()}
 
     def take(self, *module: str) -> str:
+        if module in KNOWN_CIDS:
+            return KNOWN_CIDS[module]
         number = rank("cid", *module)
         while True:
             cid = f"C{100 + number % 99_900}{'abcdef'[number // 99_900 % 6]}_001"
@@ -361,9 +367,19 @@ def modules(bodies: list) -> list:
     return sorted(built_in + table, key=lambda row: row[1])  # stable: a body's rows keep the order of the lenses
 
 
-def write(path: Path) -> None:
+def tables() -> dict:
+    """The rows of each table."""
     bodies = read_bodies()
-    table = modules(bodies)
+    return {
+        "Metadata": [(None, "Version", CATALOGUE_VERSION)],
+        "Module": [(None, *row) for row in modules(bodies)],
+        "Maker": list(enumerate(MAKERS, 1)),
+        "Body": [body[:4] for body in bodies],
+    }
+
+
+def write(path: Path) -> None:
+    content = tables()
     path.parent.mkdir(parents=True, exist_ok=True)
     path.unlink(missing_ok=True)
     database = sqlite3.connect(path, isolation_level=None)
@@ -372,16 +388,13 @@ def write(path: Path) -> None:
     database.execute("BEGIN")
     for statement in SCHEMA:
         database.execute(statement)
-    database.execute("INSERT INTO Metadata (key, value) VALUES ('Version', ?)", (CATALOGUE_VERSION,))
-    database.executemany("INSERT INTO Maker (id, name) VALUES (?, ?)", enumerate(MAKERS, 1))
-    database.executemany("INSERT INTO Body VALUES (?, ?, ?, ?)", (body[:4] for body in bodies))
-    database.executemany(
-        "INSERT INTO Module (cid, body, name, fmin, fmax, amin, amax, lens_id, lens_name, bridge, raw_only, rgb_only, "
-        "lens_id_thumbnail) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)", table)
+        table = statement.split()[2]
+        if table in content:  # filled before its indexes are made, whose pages then are full
+            places = ", ".join("?" * len(content[table][0]))
+            database.executemany(f"INSERT INTO {table} VALUES ({places})", content[table])
     database.execute("COMMIT")
     database.execute("ANALYZE")
     database.execute("DROP TABLE IF EXISTS sqlite_stat4")  # some builds of the library write it as well
-    database.execute("VACUUM")
     database.close()
     with path.open("r+b") as file:
         file.seek(96)

@@ -34,7 +34,7 @@ FIGURES = {
     "rows of built-in lenses": ("SELECT count(*) FROM Module WHERE bridge = 1", 350),
     "rows for RAW only": ("SELECT count(*) FROM Module WHERE raw_only = 1", 8_891),
     "rows for RGB only": ("SELECT count(*) FROM Module WHERE rgb_only = 1", 9_249),
-    "rows for neither": ("SELECT count(*) FROM Module WHERE raw_only = 1 AND rgb_only = 1", 0),
+    "rows with both marks": ("SELECT count(*) FROM Module WHERE raw_only = 1 AND rgb_only = 1", 0),
     "thumbnails": ("SELECT count(DISTINCT lens_id_thumbnail) FROM Module", 1_864),
     "shortest focal length": ("SELECT min(fmin) FROM Module", 0),
     "longest focal length": ("SELECT max(fmax) FROM Module", 2_000),
@@ -142,7 +142,9 @@ def column(catalogue, query: str) -> list:
 
 
 def schema_faults(catalogue) -> list:
-    found = column(catalogue, "SELECT sql FROM sqlite_schema WHERE name NOT LIKE 'sqlite_%'")
+    found = column(catalogue, "SELECT sql FROM sqlite_schema WHERE name NOT LIKE 'sqlite_%' ORDER BY rowid")
+    if sorted(found) == sorted(SCHEMA) and found != SCHEMA:
+        return ["schema: in another order"]
     return [f"schema: {statement}" for statement in sorted(set(SCHEMA) ^ set(found))]
 
 

@@ -6,7 +6,7 @@
     checkEmbeddedData.py [resources]      1 if there is a fault, each on a line of its own
     checkEmbeddedData.py --self-check     the seeded faults, each of which has to be found
 
-Needs xmllint (libxml2-utils) and Lua 5.4; the rest is Python's standard library.
+Needs xmllint (libxml2-utils), Lua 5.4 and Python 3.11 or newer, of which only the standard library.
 """
 
 import shutil

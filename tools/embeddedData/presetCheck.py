@@ -190,14 +190,11 @@ def extent_faults(data) -> list:
                 + [*known["ranges"], *known["words"]])
     if names - values.keys():
         return [f"{name}: a parameter that no preset has" for name in sorted(names - values.keys())]
-    found, shared = [], dict(values)
-    for part, other in (("Lowlight", "Highlight"), ("Highlight", "Lowlight")):  # both share their words and ranges
-        for what in ("Style", "CustomHue", "CustomSaturation"):
-            shared[f"{part}Toning{what}"] = values[f"{part}Toning{what}"] | values[f"{other}Toning{what}"]
+    found = []
     for name, words in known["words"].items():
-        found += [f"{name}: no preset has {word!r}" for word in words if word not in shared[name]]
+        found += [f"{name}: no preset has {word!r}" for word in words if word not in values[name]]
     for name, ends in known["ranges"].items():
-        numbers = {float(value) for value in shared[name] if value}
+        numbers = {float(value) for value in values[name] if value}
         if [min(numbers), max(numbers)] != ends:
             found.append(f"{name}: {min(numbers)} to {max(numbers)}, not {ends}")
     counts = [len(params_of(preset)) for preset in data.presets if preset.get("id") not in NO_LOOKS]

@@ -210,6 +210,7 @@ HISTORY_FAULTS = [
      "hardly a letter"),
     ("no copyright sign", replaced("<copyright>©", "<copyright>"), "credit"),
     ("a short story", substituted("<description_en>.{400}", "<description_en>"), "characters"),
+    ("the longest story cut", replaced("had work again.<", "had work.<"), "English stories of 713 to 960 characters"),
     ("another year in one language", substituted("(<title_de>[^<]*)1839", r"\g<1>1840"),
      "different years"),
     ("another decade's year", substituted(r"(<title_\w+>[^<]*)1839", r"\g<1>1939", 0), "its year is not of"),
@@ -221,6 +222,7 @@ HISTORY_FAULTS = [
 ]
 CATALOGUE_FAULTS = [  # (what, statements, what has to be said)
     ("an index less", "DROP INDEX module_cid_idx", "schema"),
+    ("an index made later", "DROP INDEX body_maker_idx; CREATE INDEX body_maker_idx ON Body(maker)", "another order"),
     ("a column more", "ALTER TABLE Body ADD COLUMN year INTEGER", "schema"),
     ("a module less", "DELETE FROM Module WHERE id = 7", "modules: 85939"),
     ("a body renumbered", "UPDATE Body SET id = 9999 WHERE identifier = 'AppleIPhone7'", "a module of no body"),
@@ -228,7 +230,7 @@ CATALOGUE_FAULTS = [  # (what, statements, what has to be said)
     ("no word for none", "UPDATE Module SET lens_id = '' WHERE id = 9", "rows without lens id"),
     ("a cid of another form", "UPDATE Module SET cid = 'C12_001' WHERE id = 9", "the cid C12_001"),
     ("a range that runs backwards", "UPDATE Module SET fmin = 99, fmax = 98 WHERE id = 9", "runs backwards"),
-    ("RAW and RGB only", "UPDATE Module SET raw_only = 1 WHERE id = 4", "rows for neither: 1"),
+    ("RAW and RGB only", "UPDATE Module SET raw_only = 1 WHERE id = 4", "rows with both marks: 1"),
     ("a maker renamed", "UPDATE Maker SET name = 'Fuji' WHERE name = 'Fujifilm'", "the maker Fujifilm"),
     ("another version", "UPDATE Metadata SET value = '1'", "its version"),
     ("an own module that is not embedded", "UPDATE Module SET cid = 'C1000a_001' WHERE cid = 'C33759b_023'",

@@ -8,7 +8,8 @@
 # its modules.
 # In examples/lightbox/translations/ and tests/look/catalogues/: the .qm catalogues.
 #
-# "regenerate.sh --data" makes the presets, the film history and the calibration alone: python3 is enough for that.
+# "regenerate.sh --data" makes the presets, the film history and the calibration alone: python3, 3.11 or newer, is
+# enough for that.
 #
 # Needs, by the names of Debian 12: qt6-l10n-tools (lrelease, lconvert), qt6-translations-l10n,
 # librsvg2-bin (rsvg-convert), python3.

@@ -16,6 +16,7 @@ from pathlib import Path
 
 import numpy as np
 from PIL import Image, ImageFilter
+from PIL.TiffImagePlugin import IFDRational
 
 DEFAULT_FOLDER = Path(__file__).resolve().parents[2] / "examples" / "lightbox" / "samples"
 QUALITY = 84
@@ -280,7 +281,7 @@ def camera_data():
     data = Image.Exif()
     data[MAKE] = "Canon"
     data[MODEL] = "Canon EOS 5D Mark IV"
-    data[EXIF_FOLDER] = {FOCAL_LENGTH: 35.0, LENS_MODEL: "EF24-70mm f/2.8L II USM"}
+    data[EXIF_FOLDER] = {FOCAL_LENGTH: IFDRational(35), LENS_MODEL: "EF24-70mm f/2.8L II USM"}
     return data
 
 
