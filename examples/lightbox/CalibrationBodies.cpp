@@ -3,8 +3,8 @@
 #include "CalibrationCatalogue.h"
 
 #include "PhotoMetadata.h"
+#include "Resources.h"
 
-#include <QtCore/QDir> // Q_INIT_RESOURCE
 #include <QtCore/QFile>
 #include <QtCore/QMultiHash>
 #include <QtCore/QRegularExpression>
@@ -12,17 +12,11 @@
 #include <algorithm>
 #include <iterator>
 
-// Outside of all namespaces, as the generated function is. Without the call a static library leaves the resources out.
-static void initBodies()
-{
-    Q_INIT_RESOURCE(lightbox);
-}
-
 namespace {
 
 struct Maker
 {
-    QLatin1StringView told; // what a photograph's maker begins with
+    QLatin1StringView told; // what a photograph's maker begins with, or its model
     QLatin1StringView name; // as the catalogue writes it
 };
 
@@ -93,7 +87,7 @@ QString identifierOf(const QString &maker, const QString &model)
 /*! Identifiers by the models that cameras tell, which for many are no names that people know. */
 QMultiHash<QString, QString> readToldModels()
 {
-    initBodies();
+    initLightboxResources();
     QMultiHash<QString, QString> identifiers;
     QFile table(u":/lightbox/bodies.tsv"_qs);
     if (!table.open(QIODevice::ReadOnly)) {
@@ -101,6 +95,9 @@ QMultiHash<QString, QString> readToldModels()
     }
     while (!table.atEnd()) {
         const QStringList row = QString::fromUtf8(table.readLine()).trimmed().split(u'\t');
+        if (row.constFirst().startsWith(u'#')) {
+            continue; // a comment
+        }
         QStringList told = row.value(2).split(u',', Qt::SkipEmptyParts);
         told.append(row.value(2)); // some tell both of their names at once
         told.removeDuplicates();

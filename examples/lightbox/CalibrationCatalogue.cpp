@@ -39,7 +39,10 @@ constexpr QLatin1StringView lensByBoth(" AND (bridge = 1 OR ((:id = '' OR lens_i
                                        " AND ((:id <> 'NULL' AND lens_id = :id)"
                                        " OR (:name <> 'NULL' COLLATE NOCASE AND lens_name = :name COLLATE NOCASE))))");
 
-constexpr QLatin1StringView lensByName(" AND lens_name = :name COLLATE NOCASE");
+// By the name that is shown, with its maker or without: nearly half of the rows have no other. "F4" is "f/4".
+constexpr QLatin1StringView lensByName(" AND replace(name, '/', '') COLLATE NOCASE IN (replace(:name, '/', ''),"
+                                       " (SELECT Maker.name FROM Maker JOIN Body ON Body.maker = Maker.id"
+                                       " WHERE Body.id = :body) || ' ' || replace(:name, '/', ''))");
 constexpr QLatin1StringView lensById(" AND lens_id = :id");
 constexpr QLatin1StringView anyLens;
 
@@ -55,7 +58,10 @@ std::optional<Body> bodyOf(const QSqlDatabase &database, QLatin1StringView state
 {
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    query.prepare(statement);
+    if (!query.prepare(statement)) {
+        error = query.lastError().text();
+        return {};
+    }
     query.addBindValue(identifier);
     if (!query.exec()) {
         error = query.lastError().text();
@@ -106,20 +112,16 @@ QList<CalibrationModule> modulesIn(QSqlQuery &query)
     return modules;
 }
 
-bool isOneLens(const QList<CalibrationModule> &modules)
-{
-    return std::all_of(modules.cbegin(), modules.cend(), [&modules](const CalibrationModule &module) {
-        return module.lens == modules.constFirst().lens;
-    });
-}
-
 /*! Those of the body at the focal length for the image's kind; the condition \a lens narrows them further. */
 QList<CalibrationModule> modulesOf(const QSqlDatabase &database, const Body &body, const CalibrationQuery &wanted,
                                    QLatin1StringView lens, QString &error)
 {
     QSqlQuery query(database);
     query.setForwardOnly(true);
-    query.prepare(moduleStatement(wanted.kind, lens));
+    if (!query.prepare(moduleStatement(wanted.kind, lens))) {
+        error = query.lastError().text();
+        return {};
+    }
     query.bindValue(u":body"_qs, body.id);
     query.bindValue(u":anyFocal"_qs, wanted.focalLength <= 0.0 ? 1 : 0);
     query.bindValue(u":focal"_qs, wanted.focalLength);
@@ -129,11 +131,12 @@ QList<CalibrationModule> modulesOf(const QSqlDatabase &database, const Body &bod
     if (lens.contains(u":name")) {
         query.bindValue(u":name"_qs, wanted.lensName.isNull() ? u""_qs : wanted.lensName);
     }
-    if (!query.exec()) {
-        error = query.lastError().text();
-        return {};
+    QList<CalibrationModule> modules;
+    if (query.exec()) {
+        modules = modulesIn(query);
     }
-    return modulesIn(query);
+    error = query.lastError().text().trimmed(); // reading may end with one, too
+    return modules;
 }
 
 } // namespace
@@ -141,7 +144,7 @@ QList<CalibrationModule> modulesOf(const QSqlDatabase &database, const Body &bod
 struct CCalibrationCatalogue::Copy
 {
     explicit Copy(const QString &workFolder)
-        : folder(QDir(workFolder).filePath(u"calibration-XXXXXX"_qs))
+        : folder(QDir(workFolder).filePath(u"lightbox-calibration-XXXXXX"_qs))
         , path(folder.filePath(CStorageLocation::getCafDbFileNameDefault()))
         , connection(QUuid::createUuid().toString())
     {
@@ -162,6 +165,12 @@ struct CCalibrationCatalogue::Copy
 QString CalibrationModule::fileName() const
 {
     return cid + u".caf";
+}
+
+bool CalibrationAnswer::isOfOneLens() const
+{
+    return std::all_of(modules.cbegin(), modules.cend(),
+                       [this](const CalibrationModule &module) { return module.lens == modules.constFirst().lens; });
 }
 
 CCalibrationCatalogue::CCalibrationCatalogue(const QString &workFolder)
@@ -220,7 +229,7 @@ CalibrationAnswer CCalibrationCatalogue::find(const CalibrationQuery &query) con
     answer.state = CalibrationAnswer::Served;
     for (const QLatin1StringView lens : lensConditions(query)) {
         answer.modules = modulesOf(database, *body, query, lens, answer.error);
-        if (lens == lensById && !isOneLens(answer.modules)) {
+        if (lens == lensById && !answer.isOfOneLens()) {
             answer.modules.clear(); // the name is of none of them
         }
         if (!answer.modules.isEmpty() || !answer.error.isEmpty()) {

@@ -50,6 +50,9 @@ struct CalibrationAnswer
         Failed, // the error tells why
     };
 
+    /*! Not so where an id is that of many lenses and the camera tells no name. */
+    bool isOfOneLens() const;
+
     State state = Failed;
     QString body; // the identifier that was found
     QList<CalibrationModule> modules;
@@ -58,8 +61,8 @@ struct CalibrationAnswer
 
 /*!
     The catalogue of calibration modules that the library carries. It is copied to a folder of its own below
-    \a workFolder, which goes with the object, because no database can be opened within the program. Use it in the
-    thread that made it.
+    \a workFolder, because no database can be opened within the program; it goes with the object, and a program that is
+    killed leaves it there. Use it in the thread that made it.
 */
 class CCalibrationCatalogue final
 {
@@ -81,7 +84,7 @@ public:
     */
     static QStringList bodiesOf(const QString &make, const QString &model);
 
-    /*! The SQL of find(): for a body, for the modules of a lens by all ways, and for all of a body. */
+    /*! The SQL of find() that uses indexes: for a body, for the modules of a lens by all ways, for all of a body. */
     static QStringList statements();
 
 private:

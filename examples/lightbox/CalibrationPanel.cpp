@@ -93,6 +93,7 @@ void CCalibrationPanel::retranslate()
     m_name->setText(m_path.isEmpty() ? tr("No photograph is open") : QFileInfo(m_path).fileName());
     m_camera->setText(cameraText());
     m_state->setText(stateText());
+    m_modules->setAccessibleName(windowTitle());
     m_modules->setHorizontalHeaderLabels({tr("Module"), tr("Lens"), tr("Focal length"), tr("Images")});
     fillTable();
 }
@@ -133,10 +134,13 @@ QString CCalibrationPanel::stateText() const
     }
     switch (m_answer.state) {
     case CalibrationAnswer::Served:
-        return tr("These modules serve it:");
+        return m_answer.isOfOneLens() ? tr("These modules serve it:") : tr("One of these modules serves it:");
     case CalibrationAnswer::LensUnknown:
-        return m_answer.modules.isEmpty() ? tr("No module of this camera serves the photograph")
-                                          : tr("No module serves this lens here. The camera has these:");
+        if (m_answer.modules.isEmpty()) {
+            return tr("No module of this camera serves the photograph");
+        }
+        return m_photo.hasLens() ? tr("No module serves this lens here. The camera has these:")
+                                 : tr("The photograph does not tell its lens. The camera has these:");
     case CalibrationAnswer::BodyUnknown:
         return tr("The catalogue does not have this camera");
     case CalibrationAnswer::Failed:

@@ -8,7 +8,7 @@
 
 namespace {
 
-QString modulesOf(const CalibrationAnswer &answer)
+QString modulesOf(const CalibrationAnswer &answer, bool hasLens)
 {
     QStringList names;
     for (const CalibrationModule &module : answer.modules) {
@@ -18,7 +18,8 @@ QString modulesOf(const CalibrationAnswer &answer)
     case CalibrationAnswer::Served:
         return names.join(u", "_qs);
     case CalibrationAnswer::LensUnknown:
-        return u"no module has this lens, %1 have others"_qs.arg(names.size());
+        return (hasLens ? u"no module has this lens, %1 have others"_qs : u"it tells no lens, %1 modules have some"_qs)
+            .arg(names.size());
     case CalibrationAnswer::BodyUnknown:
         return u"the catalogue does not have this camera"_qs;
     case CalibrationAnswer::Failed:
@@ -42,5 +43,5 @@ QString tourCalibration(const QString &photo)
     const CCalibrationCatalogue catalogue;
     const CalibrationAnswer answer = catalogue.find(queryOf(metadata));
     return u"%1, %2, %3, %4 mm: %5"_qs.arg(name, metadata.model, metadata.lens, QString::number(metadata.focalLength),
-                                           modulesOf(answer));
+                                           modulesOf(answer, metadata.hasLens()));
 }

@@ -12,7 +12,7 @@ namespace {
 constexpr QLatin1StringView idName("id");
 constexpr QLatin1StringView nameName("name");
 
-int readNumber(QXmlStreamReader &xml)
+int readId(QXmlStreamReader &xml)
 {
     const QString text = requiredAttribute(xml, idName);
     bool isNumber = false;
@@ -68,7 +68,7 @@ QList<HistoryEvent> readEvents(QXmlStreamReader &xml)
             continue;
         }
         HistoryEvent event;
-        event.id = readNumber(xml);
+        event.id = readId(xml);
         while (xml.readNextStartElement()) {
             readField(xml, event);
         }
@@ -80,11 +80,9 @@ QList<HistoryEvent> readEvents(QXmlStreamReader &xml)
 Decade readDecade(QXmlStreamReader &xml)
 {
     Decade decade;
-    decade.id = readNumber(xml);
+    decade.id = readId(xml);
     decade.name = requiredAttribute(xml, nameName);
-    for (const QXmlStreamAttribute &attribute : xml.attributes()) {
-        addText(decade.names, attribute.name(), nameName, attribute.value().toString());
-    }
+    decade.names = namesOf(xml);
     while (xml.readNextStartElement()) {
         if (xml.name() == u"decade_films") {
             decade.films = readFilms(xml);

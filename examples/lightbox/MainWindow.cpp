@@ -128,7 +128,8 @@ void CMainWindow::addReferenceMenu()
 {
     m_reference = new CReferenceMenu(menuBar());
     menuBar()->addMenu(m_reference);
-    connect(this, &CMainWindow::currentShown, m_reference, [this] { m_reference->setPhoto(m_photos.current()); });
+    connect(this, &CMainWindow::currentShown, m_reference,
+            [this] { m_reference->setPhoto(m_isGivenUp ? QString() : m_photos.current()); });
 }
 
 void CMainWindow::addHelpMenu()
@@ -236,6 +237,7 @@ QString CMainWindow::statusText() const
 void CMainWindow::showCurrent()
 {
     m_currentSize = QSize(); // not known before it is loaded
+    m_isGivenUp = false;
     m_savedTurns = 0;
     if (m_photos.current().isEmpty()) {
         m_view->showPhoto(QImage());
@@ -270,6 +272,7 @@ void CMainWindow::loadCurrent()
         return;
     }
     // Too late, or the program is about to leave and has ended all loops.
+    m_isGivenUp = true;
     loader.stop();
     m_view->showPhoto(QImage());
     ZYX_LOG('W', m_photos.current() + u" was given up");

@@ -118,6 +118,7 @@ private:
     QAction *m_next = nullptr;
     CReferenceMenu *m_reference = nullptr;
     QSize m_currentSize;
+    bool m_isGivenUp = false; // the current photograph took too long
     int m_savedTurns = 0; // what the print was turned by when it was saved
     QUrl m_service;
     int m_loadTimeLimit;

@@ -105,6 +105,7 @@ void CPresetBrowser::addFilters(QVBoxLayout *column)
         m_tags.append({tag, box});
     }
     m_expert->setObjectName(u"expert"_qs);
+    connect(m_expert, &QCheckBox::toggled, this, &CPresetBrowser::labelTags);
     connect(m_expert, &QCheckBox::toggled, this, &CPresetBrowser::fillList);
     column->addWidget(m_expert);
 
@@ -125,6 +126,7 @@ void CPresetBrowser::addInfo(QVBoxLayout *column)
     column->addWidget(m_title);
     m_text->setObjectName(u"presetInfoText"_qs);
     m_text->setOpenLinks(false); // and nothing is fetched
+    m_title->setBuddy(m_text); // whose name it is for a screen reader
     column->addWidget(m_text, 1);
 }
 
@@ -141,14 +143,22 @@ void CPresetBrowser::retranslate()
     setWindowTitle(tr("Presets"));
     m_search->setPlaceholderText(tr("Search"));
     m_expert->setText(tr("Also presets of the expert mode"));
-    QMap<QString, int> counts;
-    for (const auto &[tag, count] : m_library->tagCounts()) {
-        counts.insert(tag, count);
-    }
-    for (const auto &[tag, box] : m_tags) {
-        box->setText(tr("%1 (%2)").arg(tagLabel(tag), QString::number(counts.value(tag))).replace(u'&', u"&&"_qs));
-    }
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_list->setAccessibleName(windowTitle());
+    labelTags();
     fillList();
+}
+
+/*! With the counts of what is offered. */
+void CPresetBrowser::labelTags()
+{
+    const QList<Preset> &presets = m_library->presets();
+    for (const auto &tag : m_tags) {
+        const auto count = std::count_if(presets.cbegin(), presets.cend(), [this, &tag](const Preset &preset) {
+            return isOffered(preset) && preset.tags.contains(tag.first);
+        });
+        tag.second->setText(tr("%1 (%2)").arg(tagLabel(tag.first), QString::number(count)).replace(u'&', u"&&"_qs));
+    }
 }
 
 /*! The chosen preset stays the chosen one while it is listed. */
@@ -181,9 +191,14 @@ void CPresetBrowser::fillList()
     showChosen();
 }
 
+bool CPresetBrowser::isOffered(const Preset &preset) const
+{
+    return preset.isLook() && (!preset.isExpert || m_expert->isChecked());
+}
+
 bool CPresetBrowser::isWanted(const Preset &preset, const QString &name) const
 {
-    if (!preset.isLook() || (preset.isExpert && !m_expert->isChecked())) {
+    if (!isOffered(preset)) {
         return false;
     }
     const QString wanted = m_search->text().trimmed();
@@ -221,8 +236,8 @@ QString CPresetBrowser::textOf(const Preset &preset, const QString &language) co
     }
     const QString title = textIn(note->titles, language);
     const QString description = textIn(note->descriptions, language);
-    if (title == m_library->displayName(preset.id, language)) {
-        return description; // it stands above already
+    if (title.isEmpty() || title == m_library->displayName(preset.id, language)) {
+        return description; // the name stands above already
     }
     return u"<h3>%1</h3>%2"_qs.arg(title.toHtmlEscaped(), description);
 }

@@ -17,7 +17,8 @@ class QVBoxLayout;
 
 /*!
     The looks of a library by name, narrowed by tags, by a search and to those of the expert mode, with the note on the
-    chosen one. Its texts follow a change of the program's language.
+    chosen one. Its texts follow a change of the program's language, apart from that of a failure, which stays as it was
+    told.
 */
 class CPresetBrowser final : public QDialog
 {
@@ -38,6 +39,8 @@ private:
     void retranslate();
     void fillList();
     void showChosen();
+    void labelTags();
+    bool isOffered(const Preset &preset) const;
     bool isWanted(const Preset &preset, const QString &name) const;
     bool selectRow(const QString &id);
     void dropFilters();

@@ -13,15 +13,6 @@ namespace {
 constexpr QLatin1StringView idName("id");
 constexpr QLatin1StringView nameName("name");
 
-LanguageTexts namesOf(const QXmlStreamAttributes &attributes)
-{
-    LanguageTexts names;
-    for (const QXmlStreamAttribute &attribute : attributes) {
-        addText(names, attribute.name(), nameName, attribute.value().toString());
-    }
-    return names;
-}
-
 QStringList readTags(QXmlStreamReader &xml)
 {
     QStringList tags;
@@ -49,7 +40,7 @@ Preset readPreset(QXmlStreamReader &xml)
     preset.id = requiredAttribute(xml, idName);
     preset.type = attributes.value(u"type"_qs).toString();
     preset.version = attributes.value(u"version"_qs).toString();
-    preset.names = namesOf(attributes);
+    preset.names = namesOf(xml);
     preset.isExpert = attributes.value(u"expert"_qs) == u"true";
     while (xml.readNextStartElement()) {
         if (xml.name() == u"Param") {

@@ -2,22 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "Texts.h"
 
+#include "Resources.h"
+
 #include "common/Look.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDir> // Q_INIT_RESOURCE
 #include <QtCore/QFile>
 #include <QtCore/QTranslator>
 
-// Outside of all namespaces, as the generated function is. Without the call a static library leaves the resources out.
-static void initTexts()
-{
-    Q_INIT_RESOURCE(lightbox);
-}
-
 void speakLoadedLanguage()
 {
-    initTexts();
+    initLightboxResources();
     const QString path = u":/lightbox/translations/lightbox_%1.qm"_qs.arg(loadedLanguageAbbreviation());
     if (!QFile::exists(path)) {
         return; // the texts of the source

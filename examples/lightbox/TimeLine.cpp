@@ -121,6 +121,11 @@ void CTimeLine::retranslate()
     m_next->setToolTip(tr("The next decade"));
     m_filmHeading->setText(tr("Films"));
     m_eventHeading->setText(tr("Events"));
+    m_previous->setAccessibleName(m_previous->toolTip());
+    m_next->setAccessibleName(m_next->toolTip());
+    m_decades->setAccessibleName(windowTitle());
+    m_films->setAccessibleName(m_filmHeading->text());
+    m_events->setAccessibleName(m_eventHeading->text());
     const QString language = spokenLanguage();
     const int row = std::max(m_decades->currentRow(), 0);
     {

@@ -18,7 +18,7 @@ class QVBoxLayout;
 
 /*!
     The history of photography: the decades, and the films and events of the chosen one. Its texts follow a change of
-   the program's language.
+    the program's language, apart from that of a failure, which stays as it was told.
 */
 class CTimeLine final : public QDialog
 {

@@ -55,6 +55,15 @@ QString requiredAttribute(QXmlStreamReader &xml, QLatin1StringView name)
     return value;
 }
 
+LanguageTexts namesOf(const QXmlStreamReader &xml)
+{
+    LanguageTexts names;
+    for (const QXmlStreamAttribute &attribute : xml.attributes()) {
+        addText(names, attribute.name(), QLatin1StringView("name"), attribute.value().toString());
+    }
+    return names;
+}
+
 QString readBase64Text(QXmlStreamReader &xml)
 {
     const QString name = xml.name().toString();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LanguageTexts.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
@@ -19,6 +21,9 @@ class QXmlStreamReader;
 
 /*! That attribute of the current element; an error of the reader if it is missing or empty. */
 QString requiredAttribute(QXmlStreamReader &xml, QLatin1StringView name);
+
+/*! The attributes "name_XX" of the current element, by language. */
+LanguageTexts namesOf(const QXmlStreamReader &xml);
 
 /*! The text of the current element, which is Base64 of UTF-8; an error of the reader if it is neither. */
 QString readBase64Text(QXmlStreamReader &xml);

@@ -7,6 +7,7 @@
 #include "common/Look.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 
@@ -30,6 +31,12 @@ void speakAtOnce(const QString &language)
     putOnLook(language);
     speakLoadedLanguage();
     QCoreApplication::processEvents(); // the windows are told by an event
+}
+
+QString newFile(const QTemporaryDir &folder, const QString &name, const QByteArray &content)
+{
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
 }
 
 std::shared_ptr<const CPresetLibrary> brokenLibrary()

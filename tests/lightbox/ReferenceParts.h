@@ -6,6 +6,7 @@
 #include "PresetLibrary.h"
 
 #include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QWidget>
 
 #include <memory>
@@ -27,6 +28,9 @@ QString titleIn(const QWidget &browser);
 
 /*! As if the program had been started with it, while its windows are open. */
 void speakAtOnce(const QString &language);
+
+/*! The path of a new file; empty if it can't be written. */
+QString newFile(const QTemporaryDir &folder, const QString &name, const QByteArray &content);
 
 /*! Neither of its files is there. */
 std::shared_ptr<const CPresetLibrary> brokenLibrary();

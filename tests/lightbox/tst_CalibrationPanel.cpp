@@ -3,6 +3,8 @@
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 
+#include "gallery/AccessibilityAudit.h"
+
 #include "CalibrationPanel.h"
 #include "LightboxApplication.h"
 #include "MainWindow.h"
@@ -69,19 +71,27 @@ private Q_SLOTS:
     void metadata_ofTheSample();
     void metadata_ofAMakersNote_hasTheLensId();
     void metadata_ofANikon_hasTheBytesOfTheLens();
+    void metadata_ofACanonRfLens_hasItsOwnId();
+    void metadata_ofOtherMakers_hasTheLensId_data();
+    void metadata_ofOtherMakers_hasTheLensId();
     void metadata_oddValues_data();
     void metadata_oddValues();
+    void metadata_focalLengthOfAnotherType_isANumberOrNone();
     void metadata_hugeValue_isNone();
     void metadata_ofABrokenPhoto_isTold_data();
     void metadata_ofABrokenPhoto_isTold();
+    void metadata_ofAHugeFile_areNotRead();
     void metadata_ofBrokenExif_isNone_data();
     void metadata_ofBrokenExif_isNone();
     void metadata_rawFiles_areToldByTheirNames();
     void panel_ofTheSample_showsItsModule();
     void panel_state_data();
     void panel_state();
+    void panel_idOfManyLenses_isToldAsOne();
+    void panel_parts_haveNames();
     void panel_brokenCatalogue_isTold();
     void panel_followsTheOpenPhotograph();
+    void panel_ofAPhotographGivenUp_isEmpty();
     void panel_liveLanguage_isSpokenAtOnce();
 
 private:
@@ -138,6 +148,57 @@ void tst_CalibrationPanel::metadata_ofANikon_hasTheBytesOfTheLens()
     QCOMPARE(readPhotoMetadata(path(u"nikon.jpg"_qs)).lensId, u"7A 3C 1F 37 30 30 7E 06"_qs);
 }
 
+void tst_CalibrationPanel::metadata_ofOtherMakers_hasTheLensId_data()
+{
+    QTest::addColumn<QByteArray>("maker");
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("id");
+
+    const auto row = [](const char *name, const char *maker, const char *key, Exiv2::TypeId type, const char *value,
+                        const char *id) {
+        QTest::newRow(name) << QByteArray(maker) << QByteArray(key) << int(type) << QByteArray(value)
+                            << QString::fromLatin1(id);
+    };
+    row("Sony", "SONY", "Exif.Sony2.LensID", Exiv2::unsignedLong, "32789", "32789");
+    row("Sony, older", "SONY", "Exif.Sony1.LensID", Exiv2::unsignedLong, "24", "24");
+    row("Minolta", "KONICA MINOLTA", "Exif.Minolta.LensID", Exiv2::unsignedLong, "128", "128");
+    row("Samsung", "SAMSUNG", "Exif.Samsung2.LensType", Exiv2::unsignedShort, "3", "3");
+    row("Pentax", "PENTAX Corporation", "Exif.Pentax.LensType", Exiv2::unsignedByte, "8 200 0", "8 200");
+    row("Pentax, one number", "PENTAX Corporation", "Exif.Pentax.LensType", Exiv2::unsignedByte, "8", "");
+    row("Olympus", "OM Digital Solutions", "Exif.OlympusEq.LensType", Exiv2::unsignedByte, "0 0 33 16 0 0", "0 21 10");
+    row("Olympus, cut short", "OM Digital Solutions", "Exif.OlympusEq.LensType", Exiv2::unsignedByte, "0 0 33", "");
+}
+
+void tst_CalibrationPanel::metadata_ofOtherMakers_hasTheLensId()
+{
+    QFETCH(const QByteArray, maker);
+    QFETCH(const QByteArray, key);
+    QFETCH(const int, type);
+    QFETCH(const QByteArray, value);
+    Exiv2::ExifData data;
+    data["Exif.Image.Make"] = maker.toStdString();
+    data["Exif.Image.Model"] = "any";
+    const auto content = Exiv2::Value::create(Exiv2::TypeId(type));
+    content->read(value.toStdString());
+    data.add(Exiv2::ExifKey(key.toStdString()), content.get());
+    QVERIFY(writePhoto(path(u"maker.jpg"_qs), data));
+    QTEST(readPhotoMetadata(path(u"maker.jpg"_qs)).lensId, "id");
+}
+
+/*! An older tag is the same for all of them. */
+void tst_CalibrationPanel::metadata_ofACanonRfLens_hasItsOwnId()
+{
+    Exiv2::ExifData data = canonData();
+    data["Exif.CanonCs.LensType"] = uint16_t(61182);
+    data["Exif.CanonFi.RFLensType"] = int16_t(265);
+    data["Exif.Canon.LensModel"] = "RF24-105mm F4 L IS USM";
+    QVERIFY(writePhoto(path(u"rf.jpg"_qs), data));
+    QCOMPARE(readPhotoMetadata(path(u"rf.jpg"_qs)).lensId, u"265"_qs);
+    QCOMPARE(readPhotoMetadata(path(u"rf.jpg"_qs)).lens, u"RF24-105mm F4 L IS USM"_qs);
+}
+
 void tst_CalibrationPanel::metadata_oddValues_data()
 {
     QTest::addColumn<int>("above");
@@ -148,6 +209,7 @@ void tst_CalibrationPanel::metadata_oddValues_data()
     QTest::newRow("no denominator") << 35 << 0 << 0.0;
     QTest::newRow("nothing at all") << 0 << 0 << 0.0;
     QTest::newRow("negative") << -35 << 1 << 0.0;
+    QTest::newRow("negative by both") << -35 << -1 << 0.0;
 }
 
 void tst_CalibrationPanel::metadata_oddValues()
@@ -164,6 +226,27 @@ void tst_CalibrationPanel::metadata_oddValues()
     QTEST(photo.focalLength, "focalLength");
     QVERIFY2(photo.model.startsWith(u"two lines xxx"), qPrintable(photo.model));
     QCOMPARE(photo.model.size(), 200);
+}
+
+void tst_CalibrationPanel::metadata_focalLengthOfAnotherType_isANumberOrNone()
+{
+    Exiv2::ExifData data = canonData();
+    const Exiv2::AsciiValue text("35 mm");
+    data["Exif.Photo.FocalLength"].setValue(&text);
+    QVERIFY(writePhoto(path(u"text.jpg"_qs), data));
+    QCOMPARE(readPhotoMetadata(path(u"text.jpg"_qs)).focalLength, 0.0);
+
+    const auto real = Exiv2::Value::create(Exiv2::tiffDouble); // some programs write it so
+    real->read("35");
+    data["Exif.Photo.FocalLength"].setValue(real.get());
+    QVERIFY(writePhoto(path(u"real.jpg"_qs), data));
+    QCOMPARE(readPhotoMetadata(path(u"real.jpg"_qs)).focalLength, 35.0);
+
+    Exiv2::URationalValue huge;
+    huge.value_.emplace_back(0xFFFFFFFFU, 0xFFFFFFFFU);
+    data["Exif.Photo.FocalLength"].setValue(&huge);
+    QVERIFY(writePhoto(path(u"huge.jpg"_qs), data));
+    QCOMPARE(readPhotoMetadata(path(u"huge.jpg"_qs)).focalLength, 0.0);
 }
 
 /*! No text is made of it. */
@@ -195,6 +278,14 @@ void tst_CalibrationPanel::metadata_ofABrokenPhoto_isTold()
     QVERIFY2(photo.error.startsWith(u"broken.jpg can't be read: ") && photo.error.size() > 26, qPrintable(photo.error));
     QVERIFY(!photo.hasCamera());
     QVERIFY(readPhotoMetadata(path(u"none.jpg"_qs)).error.startsWith(u"none.jpg can't be read: "));
+}
+
+void tst_CalibrationPanel::metadata_ofAHugeFile_areNotRead()
+{
+    QFile file(path(u"giant.jpg"_qs));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(512LL * 1024 * 1024 + 1)); // takes no room
+    file.close();
+    QCOMPARE(readPhotoMetadata(file.fileName()).error, u"giant.jpg can't be read: it is too large"_qs);
 }
 
 void tst_CalibrationPanel::metadata_ofBrokenExif_isNone_data()
@@ -275,6 +366,8 @@ void tst_CalibrationPanel::panel_state_data()
     QTest::newRow("prime") << body << u"Yongnuo YN 50mm f/1.8"_qs << 50 << u"These modules serve it:"_qs << true;
     QTest::newRow("unknown lens") << body << unknown << 50
                                   << u"No module serves this lens here. The camera has these:"_qs << true;
+    QTest::newRow("no lens") << body << QString() << 50
+                             << u"The photograph does not tell its lens. The camera has these:"_qs << true;
     QTest::newRow("far too long") << body << unknown << 5000 << u"No module of this camera serves the photograph"_qs
                                   << false;
     QTest::newRow("unknown camera") << u"camera of nobody"_qs << unknown << 50
@@ -300,6 +393,25 @@ void tst_CalibrationPanel::panel_state()
     QCOMPARE(panel.findChild<QLabel *>(u"headingLabel"_qs)->text(), u"No photograph is open"_qs);
     QCOMPARE(panel.findChild<QLabel *>(u"cafStateLabel"_qs)->text(), QString());
     QCOMPARE(panel.findChild<QTableWidget *>()->rowCount(), 0);
+}
+
+void tst_CalibrationPanel::panel_idOfManyLenses_isToldAsOne()
+{
+    Exiv2::ExifData data = canonData();
+    data["Exif.CanonCs.LensType"] = uint16_t(161);
+    QVERIFY(writePhoto(path(u"many.jpg"_qs), data));
+    CCalibrationPanel panel(m_folder.path());
+    panel.setPhoto(path(u"many.jpg"_qs));
+    QCOMPARE(panel.findChild<QLabel *>(u"cafStateLabel"_qs)->text(), u"One of these modules serves it:"_qs);
+    QVERIFY(panel.findChild<QTableWidget *>()->rowCount() > 1);
+}
+
+void tst_CalibrationPanel::panel_parts_haveNames()
+{
+    CCalibrationPanel panel(m_folder.path());
+    panel.setPhoto(sample);
+    panel.show();
+    QCOMPARE(accessibilityFaults(panel), QStringList());
 }
 
 void tst_CalibrationPanel::panel_brokenCatalogue_isTold()
@@ -329,6 +441,24 @@ void tst_CalibrationPanel::panel_followsTheOpenPhotograph()
     QCOMPARE(heading->text(), u"b.jpg"_qs); // nothing is read for a window that is closed
     menu.actions().at(2)->trigger();
     QCOMPARE(heading->text(), u"a.jpg"_qs);
+}
+
+/*! It would wait for the same slow drive, and without a limit. */
+void tst_CalibrationPanel::panel_ofAPhotographGivenUp_isEmpty()
+{
+    const PhotoFolder photos(m_folder.path());
+    QVERIFY(photos.addPhoto(u"a.jpg"_qs));
+    QVERIFY(photos.addPhoto(u"b.jpg"_qs, QSize(6000, 4000))); // takes longer than the limit
+    CMainWindow window(photos.path());
+    window.showCurrent();
+    CReferenceMenu &menu = window.reference();
+    menu.actions().at(2)->trigger();
+    const auto *heading = menu.calibrationPanel()->findChild<QLabel *>(u"headingLabel"_qs);
+    QCOMPARE(heading->text(), u"a.jpg"_qs);
+    window.setLoadTimeLimit(1);
+    window.showNext();
+    QCOMPARE(window.statusText(), u"b.jpg takes too long"_qs);
+    QCOMPARE(heading->text(), u"No photograph is open"_qs);
 }
 
 void tst_CalibrationPanel::panel_liveLanguage_isSpokenAtOnce()

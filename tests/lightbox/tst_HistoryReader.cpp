@@ -39,8 +39,7 @@ private:
 
 QString tst_HistoryReader::fileOf(const QByteArray &content)
 {
-    QFile file(m_folder.filePath(u"data.xml"_qs));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+    return newFile(m_folder, u"data.xml"_qs, content);
 }
 
 void tst_HistoryReader::decades_areThoseOfTheData_data()

@@ -83,6 +83,9 @@ private Q_SLOTS:
     void find_lensById_isNarrowedByItsName();
     void find_idOfManyLenses_leavesTheNameToTell();
     void find_nameOfTheCamera_leavesTheIdToTell();
+    void find_nameAsTheCameraWritesIt_isFound_data();
+    void find_nameAsTheCameraWritesIt_isFound();
+    void find_idOfManyLensesWithoutAName_isOfSeveral();
     void find_wordNull_isNoLensId();
     void find_sharedBodyId_givesTheSameModules();
     void find_focalLength_isInclusive_data();
@@ -95,6 +98,7 @@ private Q_SLOTS:
     void find_quotesInTexts_areTexts();
     void module_fileName_isTheCid();
     void catalogue_copyThatFails_isTold();
+    void catalogue_thatIsNone_isTold();
     void catalogue_copy_goesWithIt();
     void statements_useTheIndexes_data();
     void statements_useTheIndexes();
@@ -254,6 +258,44 @@ void tst_ModuleSearch::find_nameOfTheCamera_leavesTheIdToTell()
     QCOMPARE(m_catalogue->find(query).modules, byId);
 }
 
+void tst_ModuleSearch::find_nameAsTheCameraWritesIt_isFound_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("focalLength");
+
+    QTest::newRow("without its maker, of a row with an id alone")
+        << u"CanonEOS5DMarkIV"_qs << QString() << u"EF16-35mm f/2.8L III USM"_qs << 24.0;
+    QTest::newRow("id of all lenses of the mount")
+        << u"CanonEOSR"_qs << u"61182"_qs << u"RF100-400mm F5.6-8 IS USM"_qs << 200.0;
+    QTest::newRow("without a slash") << u"SonyNEX7"_qs << u"65535"_qs << u"E 18-55mm F3.5-5.6 OSS"_qs << 20.0;
+    QTest::newRow("without an id") << u"SonyAlpha6000"_qs << QString() << u"E PZ 16-50mm F3.5-5.6 OSS"_qs << 20.0;
+    QTest::newRow("full frame") << u"SonyAlpha7III"_qs << QString() << u"FE 24-105mm F4 G OSS"_qs << 50.0;
+    QTest::newRow("in capitals") << u"NikonZ6"_qs << QString() << u"NIKKOR Z 24-70mm f/4 S"_qs << 50.0;
+}
+
+void tst_ModuleSearch::find_nameAsTheCameraWritesIt_isFound()
+{
+    QFETCH(const QString, body);
+    QFETCH(const QString, id);
+    QFETCH(const QString, name);
+    QFETCH(const double, focalLength);
+    const CalibrationAnswer answer = m_catalogue->find({{body}, id, name, focalLength, ImageKind::Rgb});
+    QCOMPARE(answer.state, CalibrationAnswer::Served);
+    QVERIFY(answer.isOfOneLens());
+    QString shown = answer.modules.constFirst().lens;
+    QVERIFY2(shown.remove(u'/').endsWith(QString(name).remove(u'/'), Qt::CaseInsensitive), qPrintable(shown));
+}
+
+void tst_ModuleSearch::find_idOfManyLensesWithoutAName_isOfSeveral()
+{
+    CalibrationQuery query{{u"SonyAlpha700"_qs}, u"128"_qs, {}, 50.0, ImageKind::Rgb};
+    const CalibrationAnswer answer = m_catalogue->find(query);
+    QCOMPARE(answer.state, CalibrationAnswer::Served);
+    QVERIFY(answer.modules.size() > 1 && !answer.isOfOneLens());
+}
+
 void tst_ModuleSearch::find_wordNull_isNoLensId()
 {
     const QString body = u"CanonEOS5DMarkIV"_qs;
@@ -392,6 +434,24 @@ void tst_ModuleSearch::catalogue_copyThatFails_isTold()
     const CalibrationAnswer answer = catalogue.find({{u"NikonD90"_qs}, {}, {}, 0.0, ImageKind::Rgb});
     QCOMPARE(answer.state, CalibrationAnswer::Failed);
     QCOMPARE(answer.error, catalogue.error());
+    QVERIFY(answer.modules.isEmpty());
+}
+
+/*! It opens, but nothing can be read. */
+void tst_ModuleSearch::catalogue_thatIsNone_isTold()
+{
+    const QDir folder(path(u"damaged"_qs));
+    QVERIFY(folder.mkpath(u"."_qs));
+    const CCalibrationCatalogue catalogue(folder.path());
+    QCOMPARE(catalogue.error(), QString());
+    const QString copy = folder.filePath(folder.entryList({u"lightbox-calibration-*"_qs}, QDir::Dirs).constFirst());
+    QFile file(copy + u"/CAFList5.db");
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(10'000, 'x')) == 10'000);
+    file.close();
+    const CalibrationAnswer answer = catalogue.find({{u"NikonD90"_qs}, {}, {}, 0.0, ImageKind::Rgb});
+    QCOMPARE(answer.state, CalibrationAnswer::Failed);
+    QVERIFY2(answer.error.contains(u"not a database"), qPrintable(answer.error));
     QVERIFY(answer.modules.isEmpty());
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ReferenceParts.h"
 
+#include "gallery/AccessibilityAudit.h"
+
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 
@@ -10,9 +12,7 @@
 
 #include "common/Look.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QTextDocumentFragment>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
@@ -26,12 +26,6 @@ namespace {
 QString textIn(const QWidget &browser)
 {
     return part<QTextBrowser>(browser, u"presetInfoText"_qs)->toPlainText();
-}
-
-QString fileOf(const QTemporaryDir &folder, const QString &name, const QByteArray &content)
-{
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
 }
 
 } // namespace
@@ -49,18 +43,20 @@ private Q_SLOTS:
     void browser_tags_narrow_data();
     void browser_tags_narrow();
     void browser_twoTags_areBothWanted();
-    void browser_tagBoxes_showCounts();
+    void browser_tagBoxes_countWhatIsOffered();
     void browser_search_narrows_data();
     void browser_search_narrows();
     void browser_narrowed_keepsTheChosenOne();
     void browser_nothingLeft_showsNothing();
     void browser_preset_showsItsNote();
     void browser_titleOfItsOwn_standsAboveTheNote();
+    void browser_noteWithoutATitle_standsAlone();
     void browser_presetWithoutANote_showsTagsAndParameters();
     void browser_links_areNotOpened();
     void browser_showPreset_takesBackWhatHidesIt();
     void browser_showPreset_ofNoLook_isRefused_data();
     void browser_showPreset_ofNoLook_isRefused();
+    void browser_parts_haveNames();
     void browser_brokenData_areTold();
     void browser_brokenNotes_areToldInTheirPlace();
     void liveLanguage_isSpokenAtOnce_data();
@@ -144,9 +140,12 @@ void tst_PresetBrowser::browser_twoTags_areBothWanted()
     QCOMPARE(idsIn(browser).size(), expected);
 }
 
-void tst_PresetBrowser::browser_tagBoxes_showCounts()
+void tst_PresetBrowser::browser_tagBoxes_countWhatIsOffered()
 {
     const CPresetBrowser browser(m_library);
+    QCOMPARE(part<QCheckBox>(browser, u"tag B&W"_qs)->text(), u"Black and white (28)"_qs);
+    QCOMPARE(part<QCheckBox>(browser, u"tag TimeMachine"_qs)->text(), u"Time machine (0)"_qs);
+    part<QCheckBox>(browser, u"expert"_qs)->click();
     const auto boxes = browser.findChildren<QCheckBox *>(QRegularExpression(u"^tag "_qs));
     QCOMPARE(boxes.size(), 13);
     QCOMPARE(part<QCheckBox>(browser, u"tag Film"_qs)->text(), u"Film (84)"_qs);
@@ -206,13 +205,24 @@ void tst_PresetBrowser::browser_preset_showsItsNote()
 void tst_PresetBrowser::browser_titleOfItsOwn_standsAboveTheNote()
 {
     const QTemporaryDir folder;
-    const QString presets = fileOf(folder, u"a.xml"_qs, "<Presets><Preset id='a' type='x' name_en='A'/></Presets>");
-    const QString notes = fileOf(folder, u"b.xml"_qs,
-                                 "<presets><preset id='a'><title_en>Soft &lt;b&gt; film</title_en>"
-                                 "<description_en>PGI+Ym9sZDwvYj4=</description_en></preset></presets>");
+    const QString presets = newFile(folder, u"a.xml"_qs, "<Presets><Preset id='a' type='x' name_en='A'/></Presets>");
+    const QString notes = newFile(folder, u"b.xml"_qs,
+                                  "<presets><preset id='a'><title_en>Soft &lt;b&gt; film</title_en>"
+                                  "<description_en>PGI+Ym9sZDwvYj4=</description_en></preset></presets>");
     const CPresetBrowser browser(std::make_shared<const CPresetLibrary>(presets, notes));
     QCOMPARE(titleIn(browser), u"A"_qs);
     QCOMPARE(textIn(browser), u"Soft <b> film\nbold"_qs);
+}
+
+void tst_PresetBrowser::browser_noteWithoutATitle_standsAlone()
+{
+    const QTemporaryDir folder;
+    const QString presets = newFile(folder, u"a.xml"_qs, "<Presets><Preset id='a' type='x' name_en='A'/></Presets>");
+    const QString notes = newFile(folder, u"b.xml"_qs,
+                                  "<presets><preset id='a'><title_en/><description_en>PGI+Ym9sZDwvYj4="
+                                  "</description_en></preset></presets>");
+    const CPresetBrowser browser(std::make_shared<const CPresetLibrary>(presets, notes));
+    QCOMPARE(textIn(browser), u"bold"_qs);
 }
 
 void tst_PresetBrowser::browser_presetWithoutANote_showsTagsAndParameters()
@@ -271,6 +281,13 @@ void tst_PresetBrowser::browser_showPreset_ofNoLook_isRefused()
     QCOMPARE(titleIn(browser), title);
 }
 
+void tst_PresetBrowser::browser_parts_haveNames()
+{
+    CPresetBrowser browser(m_library);
+    browser.show();
+    QCOMPARE(accessibilityFaults(browser), QStringList());
+}
+
 void tst_PresetBrowser::browser_brokenData_areTold()
 {
     const CPresetBrowser browser(brokenLibrary());
@@ -294,12 +311,12 @@ void tst_PresetBrowser::liveLanguage_isSpokenAtOnce_data()
     QTest::addColumn<QString>("expert");
     QTest::addColumn<QString>("tag");
 
-    QTest::newRow("de") << u"de"_qs << u"Voreinstellungen"_qs << u"Auch Voreinstellungen des Expertenmodus"_qs
-                        << u"Schwarzweiß: 64"_qs;
-    QTest::newRow("fr") << u"fr"_qs << u"Préréglages"_qs << u"Aussi les préréglages du mode expert"_qs
-                        << u"Noir et blanc\u00a0: 64"_qs;
-    QTest::newRow("ja") << u"ja"_qs << u"プリセット"_qs << u"エキスパートモードのプリセットも表示"_qs << u"白黒：64"_qs;
-    QTest::newRow("zh_CN") << u"zh_CN"_qs << u"预设"_qs << u"同时显示专家模式的预设"_qs << u"黑白：64"_qs;
+    QTest::newRow("de") << u"de"_qs << u"Voreinstellungen"_qs << u"Voreinstellungen des Expertenmodus einbeziehen"_qs
+                        << u"Schwarzweiß: 28"_qs;
+    QTest::newRow("fr") << u"fr"_qs << u"Préréglages"_qs << u"Inclure les préréglages du mode expert"_qs
+                        << u"Noir et blanc\u00a0: 28"_qs;
+    QTest::newRow("ja") << u"ja"_qs << u"プリセット"_qs << u"エキスパートモードのプリセットも表示"_qs << u"白黒：28"_qs;
+    QTest::newRow("zh_CN") << u"zh_CN"_qs << u"预设"_qs << u"同时显示专家模式的预设"_qs << u"黑白：28"_qs;
 }
 
 void tst_PresetBrowser::liveLanguage_isSpokenAtOnce()

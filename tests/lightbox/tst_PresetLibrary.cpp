@@ -47,8 +47,7 @@ private:
 
 QString tst_PresetLibrary::fileOf(const QByteArray &content)
 {
-    QFile file(m_folder.filePath(u"data.xml"_qs));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+    return newFile(m_folder, u"data.xml"_qs, content);
 }
 
 void tst_PresetLibrary::presets_areThoseOfTheLibrary()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ReferenceParts.h"
 
+#include "gallery/AccessibilityAudit.h"
+
 #include "support/FreshProcess.h"
 #include "support/Sandbox.h"
 
@@ -16,10 +18,8 @@
 
 #include "utilsDll/actions/ActionManager.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QUrl>
 #include <QtGui/QAction>
 #include <QtTest/QSignalSpy>
@@ -57,6 +57,7 @@ private Q_SLOTS:
     void timeLine_link_choosesThePreset();
     void timeLine_linkOfAnOddId_choosesIt();
     void timeLine_foreignLink_choosesNothing();
+    void timeLine_parts_haveNames();
     void timeLine_brokenData_areTold();
     void menu_hasAShortcutForEachWindow();
     void menu_opensEachWindowOnce();
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void menu_throughAClosedGate_comesLater();
     void liveLanguage_isSpokenAtOnce_data();
     void liveLanguage_isSpokenAtOnce();
+    void liveLanguage_keepsTheDecade();
 
 private:
     TestSupport::Sandbox m_sandbox;
@@ -165,12 +167,11 @@ void tst_TimeLine::timeLine_link_choosesThePreset()
 void tst_TimeLine::timeLine_linkOfAnOddId_choosesIt()
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath(u"decades.xml"_qs));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<decades><decade id='1' name='a'><events><event id='1'><event_films><film name='1 &amp; \"2\" %41?#ä'/>"
-               "</event_films></event></events></decade></decades>");
-    file.close();
-    const CTimeLine timeLine(CFilmHistory(file.fileName()), m_library);
+    const QString path
+        = newFile(folder, u"decades.xml"_qs,
+                  "<decades><decade id='1' name='a'><events><event id='1'><event_films>"
+                  "<film name='1 &amp; \"2\" %41?#ä'/></event_films></event></events></decade></decades>");
+    const CTimeLine timeLine(CFilmHistory(path), m_library);
     const QSignalSpy chosen(&timeLine, &CTimeLine::presetChosen);
     auto *events = part<QTextBrowser>(timeLine, u"filmDescription"_qs);
     static const QRegularExpression form(u"href=\"([^\"]+)\""_qs);
@@ -186,6 +187,14 @@ void tst_TimeLine::timeLine_foreignLink_choosesNothing()
     const QSignalSpy chosen(&timeLine, &CTimeLine::presetChosen);
     Q_EMIT part<QTextBrowser>(timeLine, u"filmDescription"_qs)->anchorClicked(QUrl(u"https://x.example/"_qs));
     QCOMPARE(chosen.size(), 0);
+}
+
+void tst_TimeLine::timeLine_parts_haveNames()
+{
+    CTimeLine timeLine(CFilmHistory(), m_library);
+    part<QListWidget>(timeLine, u"decadeList"_qs)->setCurrentRow(3); // both buttons have a way to go
+    timeLine.show();
+    QCOMPARE(accessibilityFaults(timeLine), QStringList());
 }
 
 void tst_TimeLine::timeLine_brokenData_areTold()
@@ -257,7 +266,7 @@ void tst_TimeLine::liveLanguage_isSpokenAtOnce_data()
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("decade");
 
-    QTest::newRow("de") << u"de"_qs << u"Geschichte des Films"_qs << u"19. Jahrhundert"_qs;
+    QTest::newRow("de") << u"de"_qs << u"Geschichte des fotografischen Films"_qs << u"19. Jahrhundert"_qs;
     QTest::newRow("fr") << u"fr"_qs << u"Histoire du film photographique"_qs << u"19ème Siècle"_qs;
     QTest::newRow("ja") << u"ja"_qs << u"フィルムの歴史"_qs << u"19世紀"_qs;
     QTest::newRow("zh_CN") << u"zh_CN"_qs << u"胶片历史"_qs << u"19世纪"_qs;
@@ -276,6 +285,17 @@ void tst_TimeLine::liveLanguage_isSpokenAtOnce()
     const HistoryEvent event = CFilmHistory().decades().constFirst().events.constFirst();
     QVERIFY(event.titles.value(language) != event.titles.value(u"en"_qs));
     QVERIFY2(eventsIn(timeLine).startsWith(event.titles.value(language)), qPrintable(eventsIn(timeLine)));
+}
+
+void tst_TimeLine::liveLanguage_keepsTheDecade()
+{
+    RUN_IN_FRESH_PROCESS();
+    const CTimeLine timeLine(CFilmHistory(), m_library);
+    auto *decades = part<QListWidget>(timeLine, u"decadeList"_qs);
+    decades->setCurrentRow(3);
+    speakAtOnce(u"de"_qs);
+    QCOMPARE(decades->currentRow(), 3);
+    QCOMPARE(part<QLabel>(timeLine, u"decadeLabel"_qs)->text(), u"1920's"_qs); // it has no other name
 }
 
 int main(int argc, char *argv[])

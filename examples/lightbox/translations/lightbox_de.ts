@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Also presets of the expert mode</source>
-        <translation>Auch Voreinstellungen des Expertenmodus</translation>
+        <translation>Voreinstellungen des Expertenmodus einbeziehen</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -448,7 +448,7 @@
     <name>CTimeLine</name>
     <message>
         <source>Film history</source>
-        <translation>Geschichte des Films</translation>
+        <translation>Geschichte des fotografischen Films</translation>
     </message>
     <message>
         <source>The decade before</source>
@@ -533,12 +533,20 @@
         <translation>Diese Module passen dazu:</translation>
     </message>
     <message>
+        <source>One of these modules serves it:</source>
+        <translation>Eines dieser Module passt dazu:</translation>
+    </message>
+    <message>
         <source>No module of this camera serves the photograph</source>
         <translation>Kein Modul dieser Kamera passt zu dem Foto</translation>
     </message>
     <message>
         <source>No module serves this lens here. The camera has these:</source>
         <translation>Für dieses Objektiv passt hier kein Modul. Die Kamera hat diese:</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its lens. The camera has these:</source>
+        <translation>Das Foto nennt kein Objektiv. Die Kamera hat diese:</translation>
     </message>
     <message>
         <source>The catalogue does not have this camera</source>
@@ -550,6 +558,10 @@
     <message>
         <source>%1 can&apos;t be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
     </message>
 </context>
 <context>
@@ -564,7 +576,7 @@
     </message>
     <message>
         <source>&amp;Film history</source>
-        <translation>&amp;Geschichte des Films</translation>
+        <translation>&amp;Geschichte des fotografischen Films</translation>
     </message>
     <message>
         <source>&amp;Calibration modules</source>

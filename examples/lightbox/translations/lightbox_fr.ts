@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Move &quot;%1&quot; to the trash?</source>
-        <translation>Mettre « %1 » à la corbeille ?</translation>
+        <translation>Mettre « %1 » à la corbeille ?</translation>
     </message>
     <message>
         <source>Do not ask again</source>
@@ -220,7 +220,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was turned. Save the print?</source>
-        <translation>« %1 » a été pivotée. Enregistrer le tirage ?</translation>
+        <translation>La photographie « %1 » a été pivotée. Enregistrer le tirage ?</translation>
     </message>
     <message>
         <source>Save a copy</source>
@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Also presets of the expert mode</source>
-        <translation>Aussi les préréglages du mode expert</translation>
+        <translation>Inclure les préréglages du mode expert</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -533,12 +533,20 @@
         <translation>Modules qui conviennent :</translation>
     </message>
     <message>
+        <source>One of these modules serves it:</source>
+        <translation>L’un de ces modules convient :</translation>
+    </message>
+    <message>
         <source>No module of this camera serves the photograph</source>
-        <translation>Aucun module de cet appareil ne convient à la photo</translation>
+        <translation>Aucun module de cet appareil ne convient à la photographie</translation>
     </message>
     <message>
         <source>No module serves this lens here. The camera has these:</source>
         <translation>Aucun module ne convient ici à cet objectif. L’appareil dispose de :</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its lens. The camera has these:</source>
+        <translation>La photographie n’indique pas son objectif. L’appareil dispose de :</translation>
     </message>
     <message>
         <source>The catalogue does not have this camera</source>
@@ -550,6 +558,10 @@
     <message>
         <source>%1 can&apos;t be read: %2</source>
         <translation>Impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop volumineux</translation>
     </message>
 </context>
 <context>

@@ -339,11 +339,11 @@
     </message>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation>%1を読み込めません: %2</translation>
+        <translation>%1 を読み込めません：%2</translation>
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation>%1、%2行目: %3</translation>
+        <translation>%1、%2 行目：%3</translation>
     </message>
     <message>
         <source>“%1” has no “%2”</source>
@@ -433,15 +433,15 @@
     </message>
     <message>
         <source>Presets shown: %1</source>
-        <translation>表示中のプリセット: %1</translation>
+        <translation>表示中のプリセット：%1</translation>
     </message>
     <message>
         <source>Tags: %1</source>
-        <translation>タグ: %1</translation>
+        <translation>タグ：%1</translation>
     </message>
     <message>
         <source>Parameters: %1</source>
-        <translation>パラメーター: %1</translation>
+        <translation>パラメーター：%1</translation>
     </message>
 </context>
 <context>
@@ -468,18 +468,18 @@
     </message>
     <message>
         <source>To try: %1</source>
-        <translation>試してみる: %1</translation>
+        <translation>試してみる：%1</translation>
     </message>
 </context>
 <context>
     <name>CCalibrationCatalogue</name>
     <message>
         <source>The catalogue can&apos;t be copied to %1: %2</source>
-        <translation>カタログを%1にコピーできません: %2</translation>
+        <translation>カタログを %1 にコピーできません：%2</translation>
     </message>
     <message>
         <source>The catalogue can&apos;t be opened: %1</source>
-        <translation>カタログを開けません: %1</translation>
+        <translation>カタログを開けません：%1</translation>
     </message>
 </context>
 <context>
@@ -530,7 +530,11 @@
     </message>
     <message>
         <source>These modules serve it:</source>
-        <translation>使用できるモジュール:</translation>
+        <translation>使用できるモジュール：</translation>
+    </message>
+    <message>
+        <source>One of these modules serves it:</source>
+        <translation>次のモジュールのいずれかが対応します：</translation>
     </message>
     <message>
         <source>No module of this camera serves the photograph</source>
@@ -538,7 +542,11 @@
     </message>
     <message>
         <source>No module serves this lens here. The camera has these:</source>
-        <translation>ここでこのレンズに対応するモジュールはありません。このカメラには次のものがあります:</translation>
+        <translation>この焦点距離でこのレンズに対応するモジュールはありません。このカメラには次のものがあります：</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its lens. The camera has these:</source>
+        <translation>写真にレンズの情報がありません。このカメラには次のものがあります：</translation>
     </message>
     <message>
         <source>The catalogue does not have this camera</source>
@@ -549,7 +557,11 @@
     <name>CPhotoMetadata</name>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation>%1を読み込めません: %2</translation>
+        <translation>%1 を読み込めません：%2</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
     </message>
 </context>
 <context>

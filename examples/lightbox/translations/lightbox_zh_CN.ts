@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Designer</source>
-        <translation>设计师</translation>
+        <translation>设计风格</translation>
     </message>
     <message>
         <source>Slide</source>
@@ -533,12 +533,20 @@
         <translation>适用的模块：</translation>
     </message>
     <message>
+        <source>One of these modules serves it:</source>
+        <translation>以下模块之一适用：</translation>
+    </message>
+    <message>
         <source>No module of this camera serves the photograph</source>
         <translation>此相机没有适用于这张照片的模块</translation>
     </message>
     <message>
         <source>No module serves this lens here. The camera has these:</source>
-        <translation>没有适用于此镜头的模块。此相机有以下模块：</translation>
+        <translation>在此焦距下没有适用于此镜头的模块。此相机有以下模块：</translation>
+    </message>
+    <message>
+        <source>The photograph does not tell its lens. The camera has these:</source>
+        <translation>照片中没有镜头信息。此相机有以下模块：</translation>
     </message>
     <message>
         <source>The catalogue does not have this camera</source>
@@ -550,6 +558,10 @@
     <message>
         <source>%1 can&apos;t be read: %2</source>
         <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>文件太大</translation>
     </message>
 </context>
 <context>
