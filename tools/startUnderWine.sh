@@ -4,8 +4,9 @@
 #
 # Runs a program under Wine, with the SDK that ZYX_WINDOWS_SDK names: the tests of the preset windows start this way.
 #
-# Once in some thousand starts Wine ends before the program has begun, with 1 and not a word. Each test says something, so
-# what ends like this is started again, twice at most; a failure that was printed stands.
+# Once in some thousand starts the kernel has put something where Wine maps its shared data; Wine then ends with 1 before
+# the program has begun, and without a word, as its messages are off. Each test says something, so what ends like this is
+# started again, twice at most; a failure that was printed stands.
 set -uo pipefail
 : "${ZYX_WINDOWS_SDK:?names no folder}"
 
