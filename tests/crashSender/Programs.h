@@ -8,7 +8,11 @@
 
 namespace CrashTest {
 
+#ifdef Q_OS_WIN
+constexpr int programWatchdogMs = 300'000; // Wine takes a minute and more for a dump
+#else
 constexpr int programWatchdogMs = 60'000;
+#endif
 
 /*! A program of the examples that has run to its end. */
 struct Run
