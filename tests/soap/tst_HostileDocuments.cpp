@@ -25,7 +25,7 @@ Q_DECLARE_METATYPE(DocumentFunction)
 
 namespace {
 
-constexpr qint64 longestReadingMs = 20'000; // under sanitizers too; without the limits some take minutes
+constexpr qint64 longestReadingMs = 40'000; // under sanitizers too; without the limits some take minutes
 
 const QString notXml = u"XML parse error"_qs;
 const QString invalidStructure = u"SOAP structure invalid"_qs;

@@ -344,7 +344,7 @@ void tst_QtSoapMessage::toXmlString_megabyteToEscape_isFast()
     timer.start();
     const QString result = writtenArgument(request, -1);
     const qint64 elapsed = timer.elapsed();
-    QVERIFY2(elapsed < 5000, qPrintable(QString::number(elapsed)));
+    QVERIFY2(elapsed < 20'000, qPrintable(QString::number(elapsed))); // under sanitizers too
     QVERIFY(result == u"&amp;"_qs.repeated(1'000'000));
 }
 
