@@ -86,6 +86,13 @@ private Q_SLOTS:
     void identifiers_runMakerAndModelTogether_data();
     void identifiers_runMakerAndModelTogether();
     void rawAndRgb_haveAModuleEach();
+    void rowsOfOneBody_haveAModuleEach();
+    void module_servesSeveralBodies();
+    void lensIds_haveTheirForm();
+    void numbers_areStoredAsNumbers_data();
+    void numbers_areStoredAsNumbers();
+    void builtInPrime_hasOneFocalLength();
+    void wholeLookUp_usesIndexes();
 
 private:
     QTemporaryDir m_folder;
@@ -302,7 +309,7 @@ void tst_CalibrationCatalogue::sharedBodyId_joinsTheSameModules()
         = u"SELECT identifier FROM Body WHERE id IN (SELECT id FROM Body GROUP BY id HAVING count(*) > 1)"_qs;
     QCOMPARE(column(shared), (QStringList{u"CanonEOSM50"_qs, u"CanonEOSKISSM"_qs}));
     const QString modules = u"SELECT Module.id FROM Body JOIN Module ON Module.body = Body.id WHERE identifier = ?"_qs;
-    QCOMPARE(column(modules, {u"CanonEOSM50"_qs}).size(), 314);
+    QCOMPARE(column(modules, {u"CanonEOSM50"_qs}).size(), 281);
     QCOMPARE(column(modules, {u"CanonEOSM50"_qs}), column(modules, {u"CanonEOSKISSM"_qs}));
 }
 
@@ -366,6 +373,72 @@ void tst_CalibrationCatalogue::rawAndRgb_haveAModuleEach()
     const QStringList counts = column(split);
     QCOMPARE(counts.size(), 8758);
     QCOMPARE(counts.count(u"2"_qs), counts.size());
+}
+
+void tst_CalibrationCatalogue::rowsOfOneBody_haveAModuleEach()
+{
+    QCOMPARE(column(u"SELECT cid FROM Module GROUP BY body, cid HAVING count(*) > 1"_qs), QStringList());
+    const QStringList severalIds
+        = column(u"SELECT count(DISTINCT cid) FROM Module WHERE raw_only + rgb_only = 0 GROUP BY body, name "
+                 "HAVING count(*) = 3"_qs);
+    QVERIFY(!severalIds.isEmpty());
+    QCOMPARE(severalIds.count(u"3"_qs), severalIds.size());
+}
+
+void tst_CalibrationCatalogue::module_servesSeveralBodies()
+{
+    QVERIFY(!column(u"SELECT cid FROM Module GROUP BY cid HAVING count(DISTINCT body) > 1"_qs).isEmpty());
+    QCOMPARE(column(u"SELECT cid FROM Module GROUP BY cid HAVING count(DISTINCT name) > 1"_qs), QStringList());
+}
+
+/*! The word for none, a number, the pair of a Pentax, the triple of an Olympus, the eight bytes of a Nikon. */
+void tst_CalibrationCatalogue::lensIds_haveTheirForm()
+{
+    static const QRegularExpression form(
+        u"^(NULL|\\d+|\\d+ \\d+|\\d+( [0-9a-f]{2}){2}|[0-9A-F]{2}( [0-9A-F]{2}){7})$"_qs);
+    const QStringList ids = column(u"SELECT DISTINCT lens_id FROM Module"_qs);
+    QVERIFY(ids.size() > 1000);
+    for (const QString &id : ids) {
+        QVERIFY2(form.match(id).hasMatch(), qPrintable(id));
+    }
+}
+
+void tst_CalibrationCatalogue::numbers_areStoredAsNumbers_data()
+{
+    QTest::addColumn<QString>("type");
+
+    for (const char *name : {"fmin", "fmax", "amin", "amax"}) {
+        QTest::newRow(name) << u"real"_qs;
+    }
+    for (const char *name : {"id", "body", "bridge", "raw_only", "rgb_only", "lens_id_thumbnail"}) {
+        QTest::newRow(name) << u"integer"_qs;
+    }
+}
+
+void tst_CalibrationCatalogue::numbers_areStoredAsNumbers()
+{
+    QFETCH(const QString, type);
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    QCOMPARE(column(u"SELECT DISTINCT typeof(%1) FROM Module"_qs.arg(name)), QStringList(type));
+}
+
+void tst_CalibrationCatalogue::builtInPrime_hasOneFocalLength()
+{
+    const QString lengths = u"SELECT DISTINCT fmin || ' ' || fmax FROM Body JOIN Module ON body = Body.id "
+                            "WHERE identifier = '%1'"_qs;
+    QCOMPARE(column(lengths.arg(u"RicohGRIII"_qs)), QStringList(u"18.3 18.3"_qs));
+    QCOMPARE(column(lengths.arg(u"FujifilmX100V"_qs)), QStringList(u"23.0 23.0"_qs));
+}
+
+/*! From a camera's identifier and lens to its modules. */
+void tst_CalibrationCatalogue::wholeLookUp_usesIndexes()
+{
+    const QString answer
+        = plan(u"SELECT cid FROM Body JOIN Module ON Module.body = Body.id WHERE identifier = 'CanonEOS5DMarkIV' AND "
+               "lens_id = '490' AND 12 BETWEEN fmin AND fmax AND bridge = 0 AND rgb_only = 0"_qs);
+    static const QRegularExpression module(u"SEARCH Module USING INDEX module_(body|lens_id)_idx"_qs);
+    QVERIFY2(answer.contains(u"SEARCH Body USING INDEX body_identifier_idx"_qs), qPrintable(answer));
+    QVERIFY2(module.match(answer).hasMatch(), qPrintable(answer));
 }
 
 QTEST_GUILESS_MAIN(tst_CalibrationCatalogue)

@@ -9,7 +9,7 @@ Standard library only. The same tables give the same bytes: there is no random s
 SQLite header that names the writing library is set to a fixed value.
 
 Taken from the tables: makers, bodies, lenses, ids, focal lengths, widest apertures. Set by rule here: which pairs are
-served, which of them have a RAW and an RGB module of their own or the module of another body, which rows drop the lens
+served, which of them have a RAW and an RGB module of their own or the modules of another body, which rows drop the lens
 name, the module identifiers, the narrowest aperture of an interchangeable lens.
 """
 
@@ -63,6 +63,11 @@ NONE = "NULL"  # the word, not a null value: a look-up for "no lens id" compares
 ANY_FOCAL_LENGTH = (0.0, 2000.0)  # a built-in lens of unknown range: no focal length rules it out
 NARROWEST_APERTURE = 22.0
 IDS_OF_ONE_LENS = 3  # a lens's later versions report ids of their own; behind an adapter it has one
+PENTAX_K = ("Pentax K", "Pentax KA", "Pentax KAF", "Pentax KAF2", "Pentax KAF3")
+WITHOUT_ADAPTER = {  # the other mounts whose lenses go straight on a body
+    "Canon EF-S": ("Canon EF",), "Minolta AF": ("Sony Alpha",), "Sony Alpha": ("Minolta AF",),
+    "Nikon F AF": ("Nikon F", "Nikon F AI", "Nikon F AI-S"), "Pentax KAF2": PENTAX_K, "Pentax KAF4": PENTAX_K,
+}
 CROP_TOLERANCE = 1.06  # makers round crop factors; a lens for 1.53 serves a body of 1.5
 HEADER_VERSION = 3_040_001  # bytes 96 to 99 of the file, otherwise the version of the library that happens to be here
 
@@ -150,17 +155,18 @@ def read_lenses(first_thumbnail: int) -> list:
 
 
 class Pair:
-    """A body with a lens that fits it. It has one module, or if it is `split` one for RAW and one for RGB images."""
+    """A body with a lens that fits it: a module for each id, or if it is `split` one for RAW and one for RGB images."""
 
     def __init__(self, body: Body, lens: Lens, mount: str):
         self.body = body
         self.lens = lens
         self.native = mount == body.mount
         ids = lens.ids.get(body.mount) or lens.ids.get(mount) or [NONE]
-        self.ids = ids[:IDS_OF_ONE_LENS] if self.native else ids[:1]
+        is_direct = self.native or mount in WITHOUT_ADAPTER.get(body.mount, ())
+        self.ids = ids[:IDS_OF_ONE_LENS] if is_direct else ids[:1]
         self.rank = rank(body.identifier, lens.name)
         self.split = False
-        self.cid = ""  # of the module of another body; empty: it has its own
+        self.owner = self  # of the modules: another body's pair with the lens may lend them
 
     @property
     def has_id(self) -> bool:
@@ -170,17 +176,24 @@ class Pair:
     def kinds(self) -> list:
         return kinds(self.split, self.body.raw)
 
+    def cid(self, kind: tuple, lens_id: str, cids) -> str:
+        further = [] if lens_id == self.ids[0] else [lens_id]
+        return cids.of(self.owner.body.identifier, self.lens.name, str(kind), *further)
+
 
 class Cids:
     """Gives each module an identifier that does not move when other modules are added, barring a collision."""
 
     def __init__(self):
+        self._given = dict(KNOWN_CIDS)
         self._taken = {OWN_RAW_CID, OWN_RGB_CID, *KNOWN_CIDS.values()}
 
-    def take(self, *module: str) -> str:
-        if module in KNOWN_CIDS:
-            return KNOWN_CIDS[module]
-        number = rank("cid", *module)
+    def of(self, *module: str) -> str:
+        if module not in self._given:
+            self._given[module] = self._free(rank("cid", *module))
+        return self._given[module]
+
+    def _free(self, number: int) -> str:
         while True:
             cid = f"C{100 + number % 99_900}{'abcdef'[number // 99_900 % 6]}_001"
             if cid not in self._taken:
@@ -189,7 +202,7 @@ class Cids:
             number += 1
 
 
-def kinds(split: bool, raw: bool = True) -> list:
+def kinds(split: bool, raw: bool) -> list:
     """(raw_only, rgb_only) of the modules of one pair."""
     if not raw:
         return [(0, 1)]
@@ -199,7 +212,7 @@ def kinds(split: bool, raw: bool = True) -> list:
 def built_in_rows(body: Body, thumbnail: int, ranges: dict, cids: Cids) -> list:
     (fmin, fmax), (amin, amax) = ranges.get(body.mount, (ANY_FOCAL_LENGTH, (0.0, 0.0)))
     name = f"{body.model} Lens"
-    return [(cids.take(body.identifier, name, str(kind)), body.id, name, fmin, fmax, amin, amax, NONE, NONE, 1, *kind,
+    return [(cids.of(body.identifier, name, str(kind)), body.id, name, fmin, fmax, amin, amax, NONE, NONE, 1, *kind,
              thumbnail) for kind in kinds(True, body.raw)]
 
 
@@ -241,7 +254,7 @@ def fitting_pairs(bodies: list, lenses: list) -> list:
 
 
 def best_first(pairs: list) -> list:
-    """A lens's own mount before an adapter, then by rank; each lens's first pair leads, so that no lens is left out."""
+    """A lens's own mount before others, then by rank; each lens's first pair leads, so that no lens is left out."""
     order = sorted(pairs, key=lambda pair: (not pair.native, pair.rank))
     seen = set()
     leading = []
@@ -265,32 +278,30 @@ def take_rows(pairs: list, count: int) -> list:
 
 
 def split(pairs: list, count: int) -> None:
-    """Gives the `count` first by rank of `pairs` a RAW and an RGB module; a lens of several ids keeps one for both."""
+    """Gives the `count` first by rank of `pairs` a RAW and an RGB module; a lens of several ids has them by its ids."""
     able = sorted((pair for pair in pairs if pair.body.raw and len(pair.ids) == 1), key=lambda pair: pair.rank)
     require(len(able) >= count, "too few pairs can be split")
     for pair in able[:count]:
         pair.split = True
 
 
-def share_modules(pairs: list, count: int, cids: Cids) -> None:
-    """Lets `count` pairs use the module that another body of the same maker, mount and crop factor has for the lens."""
+def share_modules(pairs: list, count: int) -> None:
+    """Lets `count` rows use the modules that another body of the same maker, mount and crop factor has for the lens."""
     groups = {}
     for pair in pairs:
         if not pair.split and pair.body.raw:
-            groups.setdefault((pair.body.maker, pair.body.mount, pair.body.crop, pair.lens.name), []).append(pair)
-    able = [(pair, group[0]) for group in groups.values() for pair in group[1:]]
-    require(len(able) >= count, "too few pairs can share a module")
-    for pair, owner in sorted(able, key=lambda entry: entry[0].rank)[:count]:
-        pair.cid = cid_of(owner, owner.kinds[0], cids)
+            body = pair.body
+            groups.setdefault((body.maker, body.mount, body.crop, pair.lens.name, *pair.ids), []).append(pair)
+    able = sorted(((pair, group[0]) for group in groups.values() for pair in group[1:]),
+                  key=lambda entry: entry[0].rank)
+    for pair, owner in able:
+        if len(pair.ids) <= count:
+            pair.owner = owner
+            count -= len(pair.ids)
+    require(count == 0, "too few pairs can share modules")
 
 
-def cid_of(pair: Pair, kind: tuple, cids: Cids) -> str:
-    if not pair.cid and not pair.split:
-        pair.cid = cids.take(pair.body.identifier, pair.lens.name, str(kind))
-    return pair.cid or cids.take(pair.body.identifier, pair.lens.name, str(kind))
-
-
-def choose_pairs(bodies: list, lenses: list, built_in: list, cids: Cids) -> list:
+def choose_pairs(bodies: list, lenses: list, built_in: list) -> list:
     """The pairs of interchangeable lenses that this version serves, split and shared so that its size is met."""
     built_in_kinds = Counter(row[10:12] for row in built_in)
     splits = RAW_ROWS - built_in_kinds[1, 0]
@@ -302,12 +313,13 @@ def choose_pairs(bodies: list, lenses: list, built_in: list, cids: Cids) -> list
     fitting = [pair for pair in fitting if pair.body.raw]
     without_id = ROWS_WITHOUT_LENS_ID - len(built_in)
     with_id = ROWS - ROWS_WITHOUT_LENS_ID - rgb_pairs - (splits - SPLIT_PAIRS_WITHOUT_ID)
-    unnumbered = take_rows(best_first([pair for pair in fitting if not pair.has_id]), without_id - SPLIT_PAIRS_WITHOUT_ID)
+    without = best_first([pair for pair in fitting if not pair.has_id])
+    unnumbered = take_rows(without, without_id - SPLIT_PAIRS_WITHOUT_ID)
     numbered = take_rows(best_first([pair for pair in fitting if pair.has_id]), with_id)
     split(unnumbered, SPLIT_PAIRS_WITHOUT_ID)
     split(numbered, splits - SPLIT_PAIRS_WITHOUT_ID)
     chosen += unnumbered + numbered
-    share_modules(chosen, len(built_in) + len(chosen) + splits - MODULES, cids)
+    share_modules(chosen, ROWS - MODULES)
     return sorted(chosen, key=lambda pair: (pair.body.id, pair.lens.thumbnail))
 
 
@@ -321,20 +333,19 @@ def ids_of_several_lenses(pairs: list) -> set:
 
 
 def name_in_metadata(lens: Lens) -> str:
-    """Canon's cameras leave out the maker; the others write the name as it is shown."""
-    return lens.name.removeprefix("Canon ")
+    """Canon's and Sony's cameras leave out the maker; the others write the name as it is shown."""
+    return lens.name.removeprefix("Canon ").removeprefix("Sony ")
 
 
 def rows_of_pairs(pairs: list, cids: Cids) -> list:
-    """Rows with the lens name in the metadata; those of one pair have a module for each kind of image."""
+    """Rows with the lens name in the metadata."""
     result = []
     for pair in pairs:
         lens = pair.lens
         amin, amax = (lens.widest, NARROWEST_APERTURE) if lens.widest > 0 else (0.0, 0.0)
         for kind in pair.kinds:
-            cid = cid_of(pair, kind, cids)
-            result += [(cid, pair.body.id, lens.name, lens.fmin, lens.fmax, amin, amax, lens_id, name_in_metadata(lens),
-                        0, *kind, lens.thumbnail) for lens_id in pair.ids]
+            result += [(pair.cid(kind, lens_id, cids), pair.body.id, lens.name, lens.fmin, lens.fmax, amin, amax,
+                        lens_id, name_in_metadata(lens), 0, *kind, lens.thumbnail) for lens_id in pair.ids]
     return result
 
 
@@ -361,7 +372,7 @@ def modules(bodies: list) -> list:
     cids = Cids()
     built_in = rows_of_built_in_lenses(bodies, cids)
     lenses = read_lenses(sum(body.built_in for body in bodies) + 1)
-    pairs = choose_pairs(bodies, lenses, built_in, cids)
+    pairs = choose_pairs(bodies, lenses, built_in)
     table = rows_of_pairs(pairs, cids)
     table = drop_names(table, ids_of_several_lenses(pairs), ROWS_WITHOUT_LENS_NAME - len(built_in))
     return sorted(built_in + table, key=lambda row: row[1])  # stable: a body's rows keep the order of the lenses

@@ -54,6 +54,14 @@ NONE_OF = {
     "a null value": "SELECT cid FROM Module WHERE " + " OR ".join(f"{column} IS NULL" for column in COLUMNS),
     "a lens that nothing in the metadata tells":
         "SELECT cid FROM Module WHERE bridge = 0 AND lens_id = 'NULL' AND lens_name = 'NULL'",
+    "a module twice on one body": "SELECT cid FROM Module GROUP BY body, cid HAVING count(*) > 1",
+    "a number of another kind":
+        "SELECT cid FROM Module WHERE " + " OR ".join(
+            [f"typeof({column}) <> 'real'" for column in ("fmin", "fmax", "amin", "amax")]
+            + [f"typeof({column}) <> 'integer'" for column in ("body", "bridge", "raw_only", "rgb_only",
+                                                              "lens_id_thumbnail")]),
+    "a broken name": "SELECT name FROM Module WHERE name LIKE '%\\_%' ESCAPE '\\' "
+                     "OR length(replace(name, '(', '')) <> length(replace(name, ')', ''))",
     "a module file for two lenses": "SELECT cid FROM Module GROUP BY cid HAVING count(DISTINCT name) > 1",
     "the same row twice":
         "SELECT cid FROM Module GROUP BY cid, body, lens_id, lens_name, raw_only, rgb_only HAVING count(*) > 1",
@@ -83,6 +91,8 @@ FULL_LOOK_UP = (  # from a camera's identifier and lens to the module
     "AND lens_id = '490' AND 12 BETWEEN fmin AND fmax AND bridge = 0 AND rgb_only = 0")
 FOCAL_LENGTHS = re.compile(r"(?<![\d.-])(\d+(?:\.\d+)?)(?:-\d+)??(?:-(\d+(?:\.\d+)?))? ?mm")  # in a lens's name
 CID = re.compile(r"C\d{3,5}[a-z]_\d{3}")
+# The word for none, a number, Pentax's pair, Olympus's triple, Nikon's eight bytes.
+LENS_ID = re.compile(r"NULL|\d+|\d+ \d+|\d+(?: [0-9a-f]{2}){2}|[0-9A-F]{2}(?: [0-9A-F]{2}){7}")
 VERSION = [("Version", "500.4.0.3")]
 OWN_ROWS = [(1, 0), (0, 1)]  # raw_only, rgb_only
 
@@ -110,10 +120,13 @@ def catalogue_faults(catalogue, modules_folder) -> list:
         found += [f"{name}: {rows[0]} and {len(rows) - 1} more"] if rows else []
     cids = column(catalogue, "SELECT DISTINCT cid FROM Module")
     found += [f"the cid {cid}" for cid in cids if not CID.fullmatch(cid)]
+    lens_ids = column(catalogue, "SELECT DISTINCT lens_id FROM Module")
+    found += [f"the lens id {lens_id}" for lens_id in lens_ids if not LENS_ID.fullmatch(lens_id)]
     found += [f"the maker {name}" for name in MAKERS if name not in column(catalogue, "SELECT name FROM Maker")]
     if catalogue.execute("SELECT key, value FROM Metadata").fetchall() != VERSION:
         found.append("its version")
-    return found + range_faults(catalogue) + identifier_faults(catalogue) + own_faults(catalogue, modules_folder) + plan_faults(catalogue)
+    found += range_faults(catalogue) + identifier_faults(catalogue)
+    return found + own_faults(catalogue, modules_folder) + plan_faults(catalogue)
 
 
 def range_faults(catalogue) -> list:
