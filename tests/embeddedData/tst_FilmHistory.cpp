@@ -74,7 +74,7 @@ private Q_SLOTS:
     void oneCredit_keepsItsLeadingTab();
     void titles_tellSubjectAndYear();
     void stories_haveTheirLength();
-    void texts_arePlainAndOfOneLanguage();
+    void texts_arePlainAndStoriesDiffer();
     void punctuation_isKept();
 };
 
@@ -301,7 +301,7 @@ void tst_FilmHistory::stories_haveTheirLength()
     QCOMPARE(*std::max_element(lengths.cbegin(), lengths.cend()), 966);
 }
 
-void tst_FilmHistory::texts_arePlainAndOfOneLanguage()
+void tst_FilmHistory::texts_arePlainAndStoriesDiffer()
 {
     QSet<QString> stories;
     for (const XmlElement &event : events()) {

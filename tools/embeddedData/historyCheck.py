@@ -20,6 +20,9 @@ LANGUAGES = ["fr", "en", "de", "ja", "zh_CN"]
 LETTERS = {"fr": re.compile("[àâçéèêëîïôùû]"), "en": re.compile(r"\b(the|of|and|was)\b"), "de": re.compile("[äöüß]"),
            "ja": re.compile("[\u3041-\u3096\u30a1-\u30fa]"), "zh_CN": re.compile("[的是在了]")}  # that tell it from others
 FEWEST_LETTERS = 5
+TITLE_ENDS = {"fr": r"\d{4}$", "en": r"\d{4}$", "de": r"\d{4}$", "ja": "\\d{4}年頃?$", "zh_CN": r"\d{4}年$"}
+EAST_ASIAN = re.compile("[\u3040-\u30ff\u4e00-\u9fff]")
+FOREIGN_QUOTES = {"fr": "“”„「」《", "en": "«»„「」《", "de": "«»”「」《", "ja": "“”„«»《", "zh_CN": "„«»「」"}
 TABBED_CREDITS = 1
 LABELS = {"name_de": "19. Jahrhundert", "name_fr": "19ème Siècle", "name_ja": "19世紀", "name_zh_CN": "19世纪"}
 
@@ -108,11 +111,13 @@ def picture_number(event: int) -> int:
 def event_faults(event) -> list:
     number = picture_number(int(event.get("id")))
     story = event.findtext("description_en")
+    films = names_of(event.find("event_films"))
     years = {language: re.findall(r"\d{4}", event.findtext(f"title_{language}")) for language in LANGUAGES}
     rules = {
         "image": event.findtext("image") == f"{number}.jpg",
         "thumbnail": event.findtext("thumbnail") == f"{number}-thumb.jpg",
         "films": (event.find("event_films") is None) == (event.get("id") == WITHOUT_FILMS),
+        "a film twice": len(set(films)) == len(films),
         "credit": re.fullmatch(r"\t?© \S.*\S", event.findtext("copyright")) is not None,
         f"{len(story)} characters in English": STORY_LENGTH[0] <= len(story) <= STORY_LENGTH[1],
         f"the titles have different years: {years}": len(set(map(tuple, years.values()))) == 1,
@@ -122,12 +127,15 @@ def event_faults(event) -> list:
         title, story = event.findtext(f"title_{language}"), event.findtext(f"description_{language}")
         found += [f"{language}: the title has no subject and year"] if not re.search(r"\S • .*\d{4}", title) else []
         found += readers.text_faults({f"title_{language}": title, f"description_{language}": story})
+        if set(FOREIGN_QUOTES[language]) & set(title + story):
+            found.append(f"{language}: quotation marks of another language")
+    found += readers.text_faults({"credit": event.findtext("copyright").lstrip("\t")})
     french = {name: event.findtext(name) for name in ("title_fr", "description_fr")}
     return found + readers.french_faults(french)
 
 
 def language_faults(events) -> list:
-    """Texts that stand twice, and letters that are not those of the language."""
+    """Texts that stand twice, and signs that are not those of the language."""
     texts = {f"event {event.get('id')}, {language}": event.findtext(f"description_{language}")
              for event in events for language in LANGUAGES}
     counts = Counter(texts.values())
@@ -138,6 +146,12 @@ def language_faults(events) -> list:
             found.append(f"{where}: hardly a letter of the language")
         if language != "ja" and LETTERS["ja"].search(text):
             found.append(f"{where}: Japanese")
+    titles = [(language, event.findtext(f"title_{language}")) for event in events for language in LANGUAGES]
+    found += [f"{title}: the title of two events" for (_, title), count in Counter(titles).items() if count > 1]
+    for language, title in titles:
+        foreign = language in ("fr", "en", "de") and EAST_ASIAN.search(title)
+        if foreign or not re.search(TITLE_ENDS[language], title):
+            found.append(f"{title}: no title in {language}")
     return found
 
 
