@@ -113,6 +113,7 @@ QStringList identifiersByToldModel(const QString &maker, const QString &model)
 {
     static const QMultiHash<QString, QString> identifiers = readToldModels();
     QStringList found = identifiers.values(model.simplified().toCaseFolded());
+    std::reverse(found.begin(), found.end()); // into the order of the table
     found.removeIf([&maker](const QString &identifier) { return !identifier.startsWith(maker, Qt::CaseInsensitive); });
     return found;
 }

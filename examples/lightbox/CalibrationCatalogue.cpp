@@ -39,10 +39,11 @@ constexpr QLatin1StringView lensByBoth(" AND (bridge = 1 OR ((:id = '' OR lens_i
                                        " AND ((:id <> 'NULL' AND lens_id = :id)"
                                        " OR (:name <> 'NULL' COLLATE NOCASE AND lens_name = :name COLLATE NOCASE))))");
 
-// By the name that is shown, with its maker or without: nearly half of the rows have no other. "F4" is "f/4".
-constexpr QLatin1StringView lensByName(" AND replace(name, '/', '') COLLATE NOCASE IN (replace(:name, '/', ''),"
-                                       " (SELECT Maker.name FROM Maker JOIN Body ON Body.maker = Maker.id"
-                                       " WHERE Body.id = :body) || ' ' || replace(:name, '/', ''))");
+// By the name that is shown, with its maker or without: nearly half of the rows have no other. "F4 L" is "f/4L".
+constexpr QLatin1StringView lensByName(
+    " AND replace(replace(name, '/', ''), ' ', '') COLLATE NOCASE IN"
+    " (replace(replace(:name, '/', ''), ' ', ''), (SELECT replace(Maker.name, ' ', '') FROM Maker"
+    " JOIN Body ON Body.maker = Maker.id WHERE Body.id = :body) || replace(replace(:name, '/', ''), ' ', ''))");
 constexpr QLatin1StringView lensById(" AND lens_id = :id");
 constexpr QLatin1StringView anyLens;
 
@@ -52,8 +53,7 @@ struct Body
     QString identifier;
 };
 
-/*! No body, or the error of the database. */
-std::optional<Body> bodyOf(const QSqlDatabase &database, QLatin1StringView statement, const QString &identifier,
+std::optional<Body> bodyBy(const QSqlDatabase &database, QLatin1StringView statement, const QString &identifier,
                            QString &error)
 {
     QSqlQuery query(database);
@@ -70,17 +70,11 @@ std::optional<Body> bodyOf(const QSqlDatabase &database, QLatin1StringView state
     return query.next() ? std::optional(Body{query.value(0).toLongLong(), query.value(1).toString()}) : std::nullopt;
 }
 
-std::optional<Body> firstBodyOf(const QSqlDatabase &database, const QStringList &identifiers, QString &error)
+/*! No body, or the error of the database. */
+std::optional<Body> bodyOf(const QSqlDatabase &database, const QString &identifier, QString &error)
 {
-    for (const QString &identifier : identifiers) {
-        for (const QLatin1StringView statement : {bodyByIndex, bodyWithoutCase}) {
-            std::optional<Body> body = bodyOf(database, statement, identifier, error);
-            if (body || !error.isEmpty()) {
-                return body;
-            }
-        }
-    }
-    return {};
+    std::optional<Body> body = bodyBy(database, bodyByIndex, identifier, error);
+    return body || !error.isEmpty() ? body : bodyBy(database, bodyWithoutCase, identifier, error);
 }
 
 QString moduleStatement(ImageKind kind, QLatin1StringView lens)
@@ -88,8 +82,7 @@ QString moduleStatement(ImageKind kind, QLatin1StringView lens)
     return QString(moduleForm).arg(kind == ImageKind::Raw ? u"rgb_only"_qs : u"raw_only"_qs, QString(lens));
 }
 
-/*! How a lens is looked for, the surest first. Some cameras tell an id that many lenses share, or a name of their own.
- */
+/*! How a lens is looked for, the surest first: some cameras tell an id of many lenses, or a name of their own. */
 QList<QLatin1StringView> lensConditions(const CalibrationQuery &wanted)
 {
     QList<QLatin1StringView> conditions{lensByBoth};
@@ -137,6 +130,25 @@ QList<CalibrationModule> modulesOf(const QSqlDatabase &database, const Body &bod
     }
     error = query.lastError().text().trimmed(); // reading may end with one, too
     return modules;
+}
+
+CalibrationAnswer answerOf(const QSqlDatabase &database, const Body &body, const CalibrationQuery &query)
+{
+    CalibrationAnswer answer{CalibrationAnswer::Served, body.identifier, {}, {}};
+    for (const QLatin1StringView lens : lensConditions(query)) {
+        answer.modules = modulesOf(database, body, query, lens, answer.error);
+        if (!answer.modules.isEmpty() || !answer.error.isEmpty()) {
+            break;
+        }
+    }
+    if (answer.modules.isEmpty() && answer.error.isEmpty()) {
+        answer.modules = modulesOf(database, body, query, anyLens, answer.error);
+        answer.state = CalibrationAnswer::LensUnknown;
+    }
+    if (!answer.error.isEmpty()) {
+        answer.state = CalibrationAnswer::Failed;
+    }
+    return answer;
 }
 
 } // namespace
@@ -215,33 +227,27 @@ void CCalibrationCatalogue::open(const QString &workFolder)
 
 CalibrationAnswer CCalibrationCatalogue::find(const CalibrationQuery &query) const
 {
-    CalibrationAnswer answer{CalibrationAnswer::Failed, {}, {}, m_error};
     if (!m_error.isEmpty()) {
-        return answer;
+        return {CalibrationAnswer::Failed, {}, {}, m_error};
     }
     const QSqlDatabase database = QSqlDatabase::database(m_copy->connection);
-    const std::optional<Body> body = firstBodyOf(database, query.bodies, answer.error);
-    if (!body) {
-        answer.state = answer.error.isEmpty() ? CalibrationAnswer::BodyUnknown : CalibrationAnswer::Failed;
-        return answer;
-    }
-    answer.body = body->identifier;
-    answer.state = CalibrationAnswer::Served;
-    for (const QLatin1StringView lens : lensConditions(query)) {
-        answer.modules = modulesOf(database, *body, query, lens, answer.error);
-        if (lens == lensById && !answer.isOfOneLens()) {
-            answer.modules.clear(); // the name is of none of them
+    std::optional<CalibrationAnswer> first;
+    for (const QString &identifier : query.bodies) {
+        QString error;
+        const std::optional<Body> body = bodyOf(database, identifier, error);
+        if (!error.isEmpty()) {
+            return {CalibrationAnswer::Failed, {}, {}, error};
         }
-        if (!answer.modules.isEmpty() || !answer.error.isEmpty()) {
-            break;
+        if (!body) {
+            continue;
+        }
+        const CalibrationAnswer answer = answerOf(database, *body, query);
+        if (answer.state != CalibrationAnswer::LensUnknown) {
+            return answer;
+        }
+        if (!first) {
+            first = answer;
         }
     }
-    if (answer.modules.isEmpty() && answer.error.isEmpty()) {
-        answer.modules = modulesOf(database, *body, query, anyLens, answer.error);
-        answer.state = CalibrationAnswer::LensUnknown;
-    }
-    if (!answer.error.isEmpty()) {
-        answer.state = CalibrationAnswer::Failed;
-    }
-    return answer;
+    return first.value_or(CalibrationAnswer{CalibrationAnswer::BodyUnknown, {}, {}, {}});
 }

@@ -50,7 +50,7 @@ struct CalibrationAnswer
         Failed, // the error tells why
     };
 
-    /*! Not so where an id is that of many lenses and the camera tells no name. */
+    /*! Not so where an id is that of many lenses and no name tells which. */
     bool isOfOneLens() const;
 
     State state = Failed;
@@ -75,7 +75,10 @@ public:
     /*! Why it could not be opened; empty if it is open. */
     const QString &error() const;
 
-    /*! The modules that serve; of a body that can't be found, an error or an unknown lens the answer tells so. */
+    /*!
+        The modules that serve, of the first of the bodies that has some; of a body that can't be found, an error or an
+        unknown lens the answer tells so.
+    */
     CalibrationAnswer find(const CalibrationQuery &query) const;
 
     /*!

@@ -24,6 +24,9 @@ QString millimetres(const QString &lengths)
 
 QString rangeText(const CalibrationModule &module)
 {
+    if (module.shortest <= 0.0) {
+        return u"–"_qs; // the catalogue has 0 to 2000 for a built-in lens of which it knows no range
+    }
     const QString shortest = QLocale().toString(module.shortest);
     const QString longest = QLocale().toString(module.longest);
     return millimetres(shortest == longest ? shortest : QString(shortest + u"–" + longest));
@@ -134,12 +137,12 @@ QString CCalibrationPanel::stateText() const
     }
     switch (m_answer.state) {
     case CalibrationAnswer::Served:
-        return m_answer.isOfOneLens() ? tr("These modules serve it:") : tr("One of these modules serves it:");
+        return m_answer.isOfOneLens() ? tr("These modules serve it:") : tr("One of these modules may serve it:");
     case CalibrationAnswer::LensUnknown:
         if (m_answer.modules.isEmpty()) {
             return tr("No module of this camera serves the photograph");
         }
-        return m_photo.hasLens() ? tr("No module serves this lens here. The camera has these:")
+        return m_photo.hasLens() ? tr("No module was found for this lens. The camera has these:")
                                  : tr("The photograph does not tell its lens. The camera has these:");
     case CalibrationAnswer::BodyUnknown:
         return tr("The catalogue does not have this camera");

@@ -144,9 +144,11 @@ PhotoMetadata metadataOf(const Exiv2::ExifData &data)
     PhotoMetadata metadata;
     metadata.make = textOf(data, "Exif.Image.Make");
     metadata.model = textOf(data, "Exif.Image.Model");
-    metadata.lens = textOf(data, "Exif.Photo.LensModel");
-    if (metadata.lens.isEmpty()) {
-        metadata.lens = textOf(data, "Exif.Canon.LensModel"); // all that older cameras write
+    for (const char *key : {"Exif.Photo.LensModel", "Exif.Canon.LensModel", "Exif.OlympusEq.LensModel",
+                            "Exif.Panasonic.LensType"}) { // older cameras write their maker's alone
+        if (metadata.lens.isEmpty()) {
+            metadata.lens = textOf(data, key);
+        }
     }
     metadata.lensId = lensIdOf(data);
     metadata.focalLength = focalLengthOf(data);

@@ -126,7 +126,6 @@ void CPresetBrowser::addInfo(QVBoxLayout *column)
     column->addWidget(m_title);
     m_text->setObjectName(u"presetInfoText"_qs);
     m_text->setOpenLinks(false); // and nothing is fetched
-    m_title->setBuddy(m_text); // whose name it is for a screen reader
     column->addWidget(m_text, 1);
 }
 
@@ -213,13 +212,13 @@ bool CPresetBrowser::isWanted(const Preset &preset, const QString &name) const
 void CPresetBrowser::showChosen()
 {
     const Preset *preset = m_library->preset(chosenId());
+    const QString language = spokenLanguage();
+    m_title->setText(preset == nullptr ? QString() : m_library->displayName(preset->id, language));
+    m_text->setAccessibleName(m_title->text()); // not as its buddy, which has a shortcut where a name has "&"
     if (preset == nullptr) {
-        m_title->clear();
         m_text->setPlainText(m_library->error());
         return;
     }
-    const QString language = spokenLanguage();
-    m_title->setText(m_library->displayName(preset->id, language));
     m_text->setHtml(textOf(*preset, language));
 }
 

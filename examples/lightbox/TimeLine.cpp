@@ -43,6 +43,7 @@ CTimeLine::CTimeLine(CFilmHistory history, std::shared_ptr<const CPresetLibrary>
 {
     setObjectName(u"TimeMachineDescriptionBigDialog"_qs); // the sheets know it by this name
     m_decade->setObjectName(u"decadeLabel"_qs);
+    m_decade->setTextFormat(Qt::PlainText);
     auto *page = new QVBoxLayout;
     page->addWidget(m_decade);
     auto *columns = new QHBoxLayout;

@@ -11,9 +11,7 @@
 #include "PhotoFolder.h"
 #include "PhotoMetadata.h"
 #include "ReferenceMenu.h"
-#include "Texts.h"
-
-#include "common/Look.h"
+#include "ReferenceParts.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
@@ -71,6 +69,8 @@ private Q_SLOTS:
     void metadata_ofTheSample();
     void metadata_ofAMakersNote_hasTheLensId();
     void metadata_ofANikon_hasTheBytesOfTheLens();
+    void metadata_ofAnOlderCamera_hasTheNameOfItsMakersNote_data();
+    void metadata_ofAnOlderCamera_hasTheNameOfItsMakersNote();
     void metadata_ofACanonRfLens_hasItsOwnId();
     void metadata_ofOtherMakers_hasTheLensId_data();
     void metadata_ofOtherMakers_hasTheLensId();
@@ -87,6 +87,7 @@ private Q_SLOTS:
     void panel_ofTheSample_showsItsModule();
     void panel_state_data();
     void panel_state();
+    void panel_builtInLensOfUnknownRange_showsNoFocalLength();
     void panel_idOfManyLenses_isToldAsOne();
     void panel_parts_haveNames();
     void panel_brokenCatalogue_isTold();
@@ -187,15 +188,41 @@ void tst_CalibrationPanel::metadata_ofOtherMakers_hasTheLensId()
     QTEST(readPhotoMetadata(path(u"maker.jpg"_qs)).lensId, "id");
 }
 
+void tst_CalibrationPanel::metadata_ofAnOlderCamera_hasTheNameOfItsMakersNote_data()
+{
+    QTest::addColumn<QByteArray>("maker");
+    QTest::addColumn<QByteArray>("key");
+
+    QTest::newRow("Canon") << QByteArray("Canon") << QByteArray("Exif.Canon.LensModel");
+    QTest::newRow("Olympus") << QByteArray("OM Digital Solutions") << QByteArray("Exif.OlympusEq.LensModel");
+    QTest::newRow("Panasonic") << QByteArray("Panasonic") << QByteArray("Exif.Panasonic.LensType");
+}
+
+void tst_CalibrationPanel::metadata_ofAnOlderCamera_hasTheNameOfItsMakersNote()
+{
+    QFETCH(const QByteArray, maker);
+    QFETCH(const QByteArray, key);
+    Exiv2::ExifData data;
+    data["Exif.Image.Make"] = maker.toStdString();
+    data["Exif.Image.Model"] = "any";
+    const std::string older = key.toStdString();
+    data[older] = "a lens";
+    QVERIFY(writePhoto(path(u"older.jpg"_qs), data));
+    QCOMPARE(readPhotoMetadata(path(u"older.jpg"_qs)).lens, u"a lens"_qs);
+    data["Exif.Photo.LensModel"] = "the lens";
+    QVERIFY(writePhoto(path(u"older.jpg"_qs), data));
+    QCOMPARE(readPhotoMetadata(path(u"older.jpg"_qs)).lens, u"the lens"_qs);
+}
+
 /*! An older tag is the same for all of them. */
 void tst_CalibrationPanel::metadata_ofACanonRfLens_hasItsOwnId()
 {
     Exiv2::ExifData data = canonData();
     data["Exif.CanonCs.LensType"] = uint16_t(61182);
-    data["Exif.CanonFi.RFLensType"] = int16_t(265);
+    data["Exif.CanonFi.RFLensType"] = int16_t(258);
     data["Exif.Canon.LensModel"] = "RF24-105mm F4 L IS USM";
     QVERIFY(writePhoto(path(u"rf.jpg"_qs), data));
-    QCOMPARE(readPhotoMetadata(path(u"rf.jpg"_qs)).lensId, u"265"_qs);
+    QCOMPARE(readPhotoMetadata(path(u"rf.jpg"_qs)).lensId, u"258"_qs);
     QCOMPARE(readPhotoMetadata(path(u"rf.jpg"_qs)).lens, u"RF24-105mm F4 L IS USM"_qs);
 }
 
@@ -365,7 +392,7 @@ void tst_CalibrationPanel::panel_state_data()
     const QString unknown = u"a lens of nobody"_qs;
     QTest::newRow("prime") << body << u"Yongnuo YN 50mm f/1.8"_qs << 50 << u"These modules serve it:"_qs << true;
     QTest::newRow("unknown lens") << body << unknown << 50
-                                  << u"No module serves this lens here. The camera has these:"_qs << true;
+                                  << u"No module was found for this lens. The camera has these:"_qs << true;
     QTest::newRow("no lens") << body << QString() << 50
                              << u"The photograph does not tell its lens. The camera has these:"_qs << true;
     QTest::newRow("far too long") << body << unknown << 5000 << u"No module of this camera serves the photograph"_qs
@@ -395,6 +422,19 @@ void tst_CalibrationPanel::panel_state()
     QCOMPARE(panel.findChild<QTableWidget *>()->rowCount(), 0);
 }
 
+void tst_CalibrationPanel::panel_builtInLensOfUnknownRange_showsNoFocalLength()
+{
+    Exiv2::ExifData data = canonData();
+    data["Exif.Image.Make"] = "Nokia";
+    data["Exif.Image.Model"] = "Lumia 930";
+    QVERIFY(writePhoto(path(u"phone.jpg"_qs), data));
+    CCalibrationPanel panel(m_folder.path());
+    panel.setPhoto(path(u"phone.jpg"_qs));
+    const auto *table = panel.findChild<QTableWidget *>();
+    QCOMPARE(table->rowCount(), 1);
+    QCOMPARE(table->item(0, 2)->text(), u"–"_qs);
+}
+
 void tst_CalibrationPanel::panel_idOfManyLenses_isToldAsOne()
 {
     Exiv2::ExifData data = canonData();
@@ -402,7 +442,7 @@ void tst_CalibrationPanel::panel_idOfManyLenses_isToldAsOne()
     QVERIFY(writePhoto(path(u"many.jpg"_qs), data));
     CCalibrationPanel panel(m_folder.path());
     panel.setPhoto(path(u"many.jpg"_qs));
-    QCOMPARE(panel.findChild<QLabel *>(u"cafStateLabel"_qs)->text(), u"One of these modules serves it:"_qs);
+    QCOMPARE(panel.findChild<QLabel *>(u"cafStateLabel"_qs)->text(), u"One of these modules may serve it:"_qs);
     QVERIFY(panel.findChild<QTableWidget *>()->rowCount() > 1);
 }
 
@@ -466,9 +506,7 @@ void tst_CalibrationPanel::panel_liveLanguage_isSpokenAtOnce()
     RUN_IN_FRESH_PROCESS();
     CCalibrationPanel panel(m_folder.path());
     panel.setPhoto(sample);
-    putOnLook(u"de"_qs);
-    speakLoadedLanguage();
-    QCoreApplication::processEvents(); // the window is told by an event
+    speakAtOnce(u"de"_qs);
     QCOMPARE(panel.windowTitle(), u"Kalibrierungsmodule"_qs);
     QCOMPARE(panel.findChild<QLabel *>(u"cafStateLabel"_qs)->text(), u"Diese Module passen dazu:"_qs);
     const auto *table = panel.findChild<QTableWidget *>();

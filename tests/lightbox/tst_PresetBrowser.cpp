@@ -56,6 +56,7 @@ private Q_SLOTS:
     void browser_showPreset_takesBackWhatHidesIt();
     void browser_showPreset_ofNoLook_isRefused_data();
     void browser_showPreset_ofNoLook_isRefused();
+    void browser_titleWithAnAmpersand_isShownWhole();
     void browser_parts_haveNames();
     void browser_brokenData_areTold();
     void browser_brokenNotes_areToldInTheirPlace();
@@ -279,6 +280,17 @@ void tst_PresetBrowser::browser_showPreset_ofNoLook_isRefused()
     const QString title = titleIn(browser);
     QVERIFY(!browser.showPreset(id));
     QCOMPARE(titleIn(browser), title);
+}
+
+/*! As a label of the text it would take the character for the mark of a shortcut. */
+void tst_PresetBrowser::browser_titleWithAnAmpersand_isShownWhole()
+{
+    CPresetBrowser browser(m_library);
+    QVERIFY(browser.showPreset(u"1917 - Light & Shadow"_qs));
+    const auto *title = part<QLabel>(browser, u"presetInfoTitle"_qs);
+    QCOMPARE(title->text(), u"1917 - Light & Shadow"_qs);
+    QCOMPARE(part<QTextBrowser>(browser, u"presetInfoText"_qs)->accessibleName(), title->text());
+    QVERIFY(title->buddy() == nullptr);
 }
 
 void tst_PresetBrowser::browser_parts_haveNames()

@@ -533,16 +533,16 @@
         <translation>Diese Module passen dazu:</translation>
     </message>
     <message>
-        <source>One of these modules serves it:</source>
-        <translation>Eines dieser Module passt dazu:</translation>
+        <source>One of these modules may serve it:</source>
+        <translation>Eines dieser Module passt möglicherweise dazu:</translation>
     </message>
     <message>
         <source>No module of this camera serves the photograph</source>
         <translation>Kein Modul dieser Kamera passt zu dem Foto</translation>
     </message>
     <message>
-        <source>No module serves this lens here. The camera has these:</source>
-        <translation>Für dieses Objektiv passt hier kein Modul. Die Kamera hat diese:</translation>
+        <source>No module was found for this lens. The camera has these:</source>
+        <translation>Für dieses Objektiv wurde kein Modul gefunden. Die Kamera hat diese:</translation>
     </message>
     <message>
         <source>The photograph does not tell its lens. The camera has these:</source>

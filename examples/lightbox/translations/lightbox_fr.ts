@@ -533,16 +533,16 @@
         <translation>Modules qui conviennent :</translation>
     </message>
     <message>
-        <source>One of these modules serves it:</source>
-        <translation>L’un de ces modules convient :</translation>
+        <source>One of these modules may serve it:</source>
+        <translation>L’un de ces modules peut convenir :</translation>
     </message>
     <message>
         <source>No module of this camera serves the photograph</source>
         <translation>Aucun module de cet appareil ne convient à la photographie</translation>
     </message>
     <message>
-        <source>No module serves this lens here. The camera has these:</source>
-        <translation>Aucun module ne convient ici à cet objectif. L’appareil dispose de :</translation>
+        <source>No module was found for this lens. The camera has these:</source>
+        <translation>Aucun module trouvé pour cet objectif. L’appareil dispose de :</translation>
     </message>
     <message>
         <source>The photograph does not tell its lens. The camera has these:</source>

@@ -533,16 +533,16 @@
         <translation>使用できるモジュール：</translation>
     </message>
     <message>
-        <source>One of these modules serves it:</source>
-        <translation>次のモジュールのいずれかが対応します：</translation>
+        <source>One of these modules may serve it:</source>
+        <translation>次のモジュールのいずれかが対応する可能性があります：</translation>
     </message>
     <message>
         <source>No module of this camera serves the photograph</source>
         <translation>このカメラのモジュールで、この写真に対応するものはありません</translation>
     </message>
     <message>
-        <source>No module serves this lens here. The camera has these:</source>
-        <translation>この焦点距離でこのレンズに対応するモジュールはありません。このカメラには次のものがあります：</translation>
+        <source>No module was found for this lens. The camera has these:</source>
+        <translation>このレンズに対応するモジュールが見つかりません。このカメラには次のものがあります：</translation>
     </message>
     <message>
         <source>The photograph does not tell its lens. The camera has these:</source>

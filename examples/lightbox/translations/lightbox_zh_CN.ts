@@ -533,16 +533,16 @@
         <translation>适用的模块：</translation>
     </message>
     <message>
-        <source>One of these modules serves it:</source>
-        <translation>以下模块之一适用：</translation>
+        <source>One of these modules may serve it:</source>
+        <translation>以下模块之一可能适用：</translation>
     </message>
     <message>
         <source>No module of this camera serves the photograph</source>
         <translation>此相机没有适用于这张照片的模块</translation>
     </message>
     <message>
-        <source>No module serves this lens here. The camera has these:</source>
-        <translation>在此焦距下没有适用于此镜头的模块。此相机有以下模块：</translation>
+        <source>No module was found for this lens. The camera has these:</source>
+        <translation>未找到适用于此镜头的模块。此相机有以下模块：</translation>
     </message>
     <message>
         <source>The photograph does not tell its lens. The camera has these:</source>
