@@ -113,6 +113,9 @@ def name_faults(data) -> list:
                   if note.findtext(f"title_{language}") != preset.get(f"name_{language}")]
         if is_black_and_white(note) != ("B&W" in presetCheck.tags_of(preset)):
             found.append(f"note of {note.get('id')}: black and white by its type or by its tag alone")
+        kind = re.search("<b>Type:</b> ([^<]*)", description(note, "en") or "")
+        found += [f"note of {note.get('id')}: a {word} by its type alone" for word in ("slide", "negative")
+                  if kind and word in kind[1].lower() and word.capitalize() not in presetCheck.tags_of(preset)]
     counts = Counter(note.get("name") for note in data.notes)
     shared = {name: count for name, count in counts.items() if count > 1}
     return found + ([f"presetInfo.xml: names of several notes: {shared}"] if shared != {SHARED_NAME: 2} else [])
@@ -125,7 +128,7 @@ def leftover_faults(note) -> list:
 
 
 def note_faults(note) -> list:
-    found, lengths = [], []
+    found, lengths, heads = [], [], []
     for language in LANGUAGES:
         text = description(note, language)
         if text is None:
@@ -142,8 +145,11 @@ def note_faults(note) -> list:
         if not values:
             found.append(f"{language}: the head is not four labelled lines: {text[:text.find('<p>')]}")
         lengths.append(len(fragment.paragraphs))
+        heads.append(head_of(text, language))
     if len(set(lengths)) > 1:
         found.append(f"the languages differ in paragraphs: {lengths}")
+    if len(set(heads)) > 1:
+        found.append("the languages differ in their heads")
     return found
 
 
@@ -155,6 +161,12 @@ def head_values(text: str, language: str) -> list:
         if found := re.fullmatch(lines, head):
             return [html.unescape(value) for value in found.groups()]
     return []
+
+
+def head_of(text: str, language: str) -> int:
+    """Which of the heads it is; -1 if none."""
+    labels = [readers.labels()[keys[2]][language] for keys in HEADS]
+    return next((number for number, label in enumerate(labels) if "<br/>" + label in text), -1)
 
 
 def figures(data) -> list:

@@ -28,6 +28,8 @@ NO_LOOK_SETS = {"CropAuto", "KeystoningKeepOriginalSize"}
 OTHER_RENDERING = "CurrentColorRendering"
 HISTORY_ID = re.compile(r"\d{4} - \S.*")
 LONGEST_CURVE = 5
+FINE_GRAIN = 100  # an intensity that no tag tells
+FEWEST_TABLES_OVER_LINES = 10
 NUMBER = re.compile(r"-?\d+(\.\d+)?")
 
 
@@ -108,14 +110,17 @@ def neutral_faults(params: dict) -> list:
     neutral |= dict.fromkeys(known["flags"], "false") | dict.fromkeys(known["presets"] + [*known["words"]], "")
     neutral |= dict.fromkeys(known["curves"], "value = { 0, 0, 1, 1, }")
     neutral |= dict.fromkeys(known["points"], "value={0.5,0.5,}") | NEUTRAL
-    return [f"{name}: {value!r} is not neutral" for name, value in params.items() if value != neutral[name]]
+    return [f"{name}: {value!r} is not neutral" for name, value in params.items() if value != neutral.get(name)]
 
 
 def agreement_faults(name: str, params: dict, tags: list) -> list:
     """Parameters that say something else than id and tags do."""
     expected = {"BWPreset"} if "B&W" in tags else {"ColorPreset"} if "Color" in tags else {"BWPreset", "ColorPreset"}
     toned = {params.get("HighlightToningStyle", ""), params.get("LowlightToningStyle", "")} != {""}
-    vignette = any(param.startswith(("ArtisticVignetting", "VignettedBlur")) for param in params)
+    vignette = (params.get("VignettedBlurMode") == "Vignette"
+                or params.get("ArtisticVignettingCornerAttenuation", "0") != "0")
+    grain = bool(params.get("GrainType")) and float(params.get("GrainIntensity", "0")) > FINE_GRAIN
+    shows = {"Toned": toned, "Frame": bool(params.get("FrameID")), "Vignette": vignette, "Grain": grain}
     rules = {
         "its type is not that of its tags": params.get("PresetType") in expected,
         "ColorIntentAutoActive is not true": params.get("ColorIntentAutoActive") == "true",
@@ -128,6 +133,10 @@ def agreement_faults(name: str, params: dict, tags: list) -> list:
         "a frame is missing": "Frame" not in tags or bool(params.get("FrameID")),
         "a vignette is missing": "Vignette" not in tags or vignette,
         "the grain is missing": "Grain" not in tags or bool(params.get("GrainType")),
+        "shows what no tag tells": not {"Designer", "Cinematic", "Digital"} & set(tags)
+            or all(tag in tags for tag, shown in shows.items() if shown),
+        "a black-and-white film without its response to colors or its grain": not {"Film", "B&W"} <= set(tags)
+            or bool(params.get("GrainType")) and any(param.startswith("ChannelMixer") for param in params),
         "NotCEControl": ("NotCEControl" in params) == (name in NOT_CE_CONTROL),
         "ColorRenderingActive": ("ColorRenderingActive" in params) == (name == "FujiInstax210"),
         "sets what no look sets": not NO_LOOK_SETS & params.keys(),
@@ -200,6 +209,8 @@ def extent_faults(data) -> list:
     counts = [len(params_of(preset)) for preset in data.presets if preset.get("id") not in NO_LOOKS]
     if (min(counts), max(counts)) != PARAMS_OF_A_LOOK:
         found.append(f"default.xml: looks of {min(counts)} to {max(counts)} parameters")
+    if sum("\n" in value for name in known["curves"] for value in values[name]) < FEWEST_TABLES_OVER_LINES:
+        found.append("default.xml: hardly a table over several lines")
     return found
 
 

@@ -57,6 +57,11 @@ def equal_looks(text: str) -> str:
                   flags=re.DOTALL)
 
 
+def without_channel_mixer(text: str) -> str:
+    film = re.search('<Preset id="AdoxCMS20".*?</Preset>', text, re.DOTALL)[0]
+    return text.replace(film, re.sub(r'<Param name="ChannelMixer[^>]*>', "", film))
+
+
 def sorted_films(text: str) -> str:
     """The films of the second decade: those of the history first."""
     start = text.index('<decade id="2"')
@@ -130,6 +135,14 @@ PRESET_FAULTS = [  # (what, change of default.xml, what has to be said)
     ("a vignette without one", tagged(SOFT, '"Color"', '"Color" /><Tag name="Vignette"'), "a vignette is missing"),
     ("grain without one", lambda text: tagged("Astia", '"Color"', '"Color" /><Tag name="Grain"')(
         of_preset("Astia", "GrainType", "")(text)), "the grain is missing"),
+    ("a frame without its tag", substituted('(id="Darkroom".*?)(<Param )', r'\1<Param name="FrameID" value="14" />\2'),
+     "shows what no tag tells"),
+    ("a vignette without its tag", tagged("Blurred", '"Vignette"', '"Grain"'), "shows what no tag tells"),
+    ("a soft focus as a vignette", tagged("Glamour", '"Designer"', '"Designer" /><Tag name="Vignette"'),
+     "a vignette is missing"),
+    ("a black-and-white film without grain", of_preset("AdoxCMS20", "GrainType", ""), "its response to colors"),
+    ("a black-and-white film without its response", without_channel_mixer, "its response to colors"),
+    ("tables on one line", substituted("&#10;", " ", 0), "hardly a table"),
     ("a rendering switch elsewhere",
      substituted("(id=\"FujiAstia100\".*?)ColorModeContrast", r"\1ColorRenderingActive"),
      "FujiAstia100: ColorRenderingActive"),
@@ -176,6 +189,11 @@ NOTE_FAULTS = [
     ("a paragraph lost in one language", described(SOFT, "zh_CN", lambda text: text[:text.rindex("<p>")]), "differ"),
     ("a plain blank in French", described(SOFT, "fr", substituted("(<p>[^<]*)\u00a0:", r"\1 :")), "the blank at"),
     ("straight quotation marks", described(SOFT, "en", replaced("<p>", '<p>"The" ')), "straight quotation"),
+    ("a negative by its type", described(SOFT, "en", replaced("Slide color film", "Color negative film")),
+     "a negative by its type alone"),
+    ("another head in one language", described(SOFT, "fr", lambda text: text.replace(
+        "<b>Début de production : </b>", "<b>Année de création :</b> ").replace(
+        "<b>Fin de production : </b>", "<b>Année d’arrêt :</b> ")), "differ in their heads"),
     ("a type that is not that of its tags", described(SOFT, "en", replaced("Slide color film", "Black-and-white film")),
      "black and white"),
 ]
