@@ -16,7 +16,7 @@ QString modulesOf(const CalibrationAnswer &answer, bool hasLens)
     }
     switch (answer.state) {
     case CalibrationAnswer::Served:
-        return names.join(u", "_qs);
+        return (answer.isOfOneLens() ? u""_qs : u"one of "_qs) + names.join(u", "_qs);
     case CalibrationAnswer::LensUnknown:
         return (hasLens ? u"no module has this lens, %1 have others"_qs : u"it tells no lens, %1 modules have some"_qs)
             .arg(names.size());

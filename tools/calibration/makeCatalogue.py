@@ -157,12 +157,13 @@ def read_lenses(first_thumbnail: int) -> list:
 class Pair:
     """A body with a lens that fits it: a module for each id, or if it is `split` one for RAW and one for RGB images."""
 
-    def __init__(self, body: Body, lens: Lens, mount: str):
+    def __init__(self, body: Body, lens: Lens, mounts: list):
+        """The `mounts` are those by which the lens goes on the body, the body's own first."""
         self.body = body
         self.lens = lens
-        self.native = mount == body.mount
-        ids = lens.ids.get(body.mount) or lens.ids.get(mount) or [NONE]
-        is_direct = self.native or mount in WITHOUT_ADAPTER.get(body.mount, ())
+        self.native = mounts[0] == body.mount
+        ids = next((lens.ids[mount] for mount in [body.mount, *mounts] if mount in lens.ids), [NONE])
+        is_direct = self.native or mounts[0] in WITHOUT_ADAPTER.get(body.mount, ())
         self.ids = ids[:IDS_OF_ONE_LENS] if is_direct else ids[:1]
         self.rank = rank(body.identifier, lens.name)
         self.split = False
@@ -231,12 +232,11 @@ def rows_of_built_in_lenses(bodies: list, cids: Cids) -> list:
     return result
 
 
-def mount_between(body: Body, lens: Lens, adapters: dict) -> str:
-    """The mount by which `lens` goes on `body`, its own first; empty if it does not fit or cover the sensor."""
+def mounts_between(body: Body, lens: Lens, adapters: dict) -> list:
+    """The mounts by which `lens` goes on `body`, its own first; none if it does not fit or cover the sensor."""
     if lens.crop > body.crop * CROP_TOLERANCE:
-        return ""
-    fitting = (mount for mount in [body.mount, *adapters.get(body.mount, [])] if mount in lens.mounts)
-    return next(fitting, "")
+        return []
+    return [mount for mount in [body.mount, *adapters.get(body.mount, [])] if mount in lens.mounts]
 
 
 def fitting_pairs(bodies: list, lenses: list) -> list:
@@ -246,10 +246,10 @@ def fitting_pairs(bodies: list, lenses: list) -> list:
     for body in bodies:
         seen = set()
         for lens in lenses:
-            mount = mount_between(body, lens, adapters)
-            if mount and lens.name not in seen:
+            mounts = mounts_between(body, lens, adapters)
+            if mounts and lens.name not in seen:
                 seen.add(lens.name)
-                result.append(Pair(body, lens, mount))
+                result.append(Pair(body, lens, mounts))
     return result
 
 
@@ -279,7 +279,7 @@ def take_rows(pairs: list, count: int) -> list:
 
 def split(pairs: list, count: int) -> None:
     """Gives the `count` first by rank of `pairs` a RAW and an RGB module; a lens of several ids has them by its ids."""
-    able = sorted((pair for pair in pairs if pair.body.raw and len(pair.ids) == 1), key=lambda pair: pair.rank)
+    able = sorted((pair for pair in pairs if len(pair.ids) == 1), key=lambda pair: pair.rank)
     require(len(able) >= count, "too few pairs can be split")
     for pair in able[:count]:
         pair.split = True

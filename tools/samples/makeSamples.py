@@ -8,8 +8,8 @@ Usage: makeSamples.py [folder]
 The lighthouse tells a camera and a lens that the catalogue of calibration modules has; the lake tells none.
 
 Needs numpy and Pillow (Debian: python3-numpy, python3-pil). The pictures are computed: nothing is taken from a
-photograph. Pixels are linear light in arrays of height x width x 3 until develop() gives them film-like tones, grain and
-a vignette.
+photograph. Pixels are linear light in arrays of height x width x 3 until develop() gives them film-like tones, grain
+and a vignette.
 """
 
 import sys
