@@ -81,9 +81,10 @@ def description(note, language: str):
     return readers.decoded(note.findtext(f"description_{language}") or "")
 
 
-def is_black_and_white(note) -> bool:
-    kind = re.search("<b>Type:</b> ([^<]*)", description(note, "en") or "")
-    return kind is not None and "black and white" in kind[1].lower().replace("-", " ")
+def type_of(note) -> str:
+    """What the English head tells as its type, in small letters."""
+    found = re.search("<b>Type:</b> ([^<]*)", description(note, "en") or "")
+    return found[1].lower() if found else ""
 
 
 def link_faults(data) -> list:
@@ -111,11 +112,11 @@ def name_faults(data) -> list:
             found.append(f"note of {note.get('id')}: its name is not that of the preset")
         found += [f"note of {note.get('id')}: its title is not the name in {language}" for language in LANGUAGES
                   if note.findtext(f"title_{language}") != preset.get(f"name_{language}")]
-        if is_black_and_white(note) != ("B&W" in presetCheck.tags_of(preset)):
+        kind, tags = type_of(note), presetCheck.tags_of(preset)
+        if ("black and white" in kind.replace("-", " ")) != ("B&W" in tags):
             found.append(f"note of {note.get('id')}: black and white by its type or by its tag alone")
-        kind = re.search("<b>Type:</b> ([^<]*)", description(note, "en") or "")
         found += [f"note of {note.get('id')}: a {word} by its type alone" for word in ("slide", "negative")
-                  if kind and word in kind[1].lower() and word.capitalize() not in presetCheck.tags_of(preset)]
+                  if word in kind and word.capitalize() not in tags]
     counts = Counter(note.get("name") for note in data.notes)
     shared = {name: count for name, count in counts.items() if count > 1}
     return found + ([f"presetInfo.xml: names of several notes: {shared}"] if shared != {SHARED_NAME: 2} else [])

@@ -119,7 +119,8 @@ def agreement_faults(name: str, params: dict, tags: list) -> list:
     toned = {params.get("HighlightToningStyle", ""), params.get("LowlightToningStyle", "")} != {""}
     vignette = (params.get("VignettedBlurMode") == "Vignette"
                 or params.get("ArtisticVignettingCornerAttenuation", "0") != "0")
-    grain = bool(params.get("GrainType")) and float(params.get("GrainIntensity", "0")) > FINE_GRAIN
+    intensity = params.get("GrainIntensity", "0")
+    grain = bool(params.get("GrainType")) and bool(NUMBER.fullmatch(intensity)) and float(intensity) > FINE_GRAIN
     shows = {"Toned": toned, "Frame": bool(params.get("FrameID")), "Vignette": vignette, "Grain": grain}
     rules = {
         "its type is not that of its tags": params.get("PresetType") in expected,
@@ -133,6 +134,7 @@ def agreement_faults(name: str, params: dict, tags: list) -> list:
         "a frame is missing": "Frame" not in tags or bool(params.get("FrameID")),
         "a vignette is missing": "Vignette" not in tags or vignette,
         "the grain is missing": "Grain" not in tags or bool(params.get("GrainType")),
+        # A film's own border and grain need no tag.
         "shows what no tag tells": not {"Designer", "Cinematic", "Digital"} & set(tags)
             or all(tag in tags for tag, shown in shows.items() if shown),
         "a black-and-white film without its response to colors or its grain": not {"Film", "B&W"} <= set(tags)
@@ -203,7 +205,7 @@ def extent_faults(data) -> list:
     for name, words in known["words"].items():
         found += [f"{name}: no preset has {word!r}" for word in words if word not in values[name]]
     for name, ends in known["ranges"].items():
-        numbers = {float(value) for value in values[name] if value}
+        numbers = {float(value) for value in values[name] if NUMBER.fullmatch(value)}
         if [min(numbers), max(numbers)] != ends:
             found.append(f"{name}: {min(numbers)} to {max(numbers)}, not {ends}")
     counts = [len(params_of(preset)) for preset in data.presets if preset.get("id") not in NO_LOOKS]

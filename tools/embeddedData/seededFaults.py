@@ -105,6 +105,8 @@ PRESET_FAULTS = [  # (what, change of default.xml, what has to be said)
     ("a flag that is none", of_preset(SOFT, "ColorIntentAutoActive", "yes"), "'yes'"),
     ("a number out of its range", of_preset(SOFT, "GrainIntensity", "201"), "'201'"),
     ("a number below -100", of_preset(SOFT, "ColorModeContrast", "-101"), "'-101'"),
+    ("a word for a number", of_preset(SOFT, "GrainIntensity", "many"), "'many'"),
+    ("a word for another number", of_preset(SOFT, "ColorRenderingIntensity", "many"), "'many'"),
     ("a number in another notation", of_preset(SOFT, "ColorModeContrast", "1e1"), "'1e1'"),
     ("a word that is none", of_preset(SOFT, "GrainFilmFormat", "35mm"), "'35mm'"),
     ("a seed of six digits", of_preset("FujiInstax210", "FramingSeed", "100000"), "'100000'"),
