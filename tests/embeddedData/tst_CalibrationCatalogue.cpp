@@ -88,6 +88,7 @@ private Q_SLOTS:
     void rawAndRgb_haveAModuleEach();
     void rowsOfOneBody_haveAModuleEach();
     void module_servesSeveralBodies();
+    void lensIds_areThoseOfAnyMountThatFits();
     void lensIds_haveTheirForm();
     void numbers_areStoredAsNumbers_data();
     void numbers_areStoredAsNumbers();
@@ -387,6 +388,15 @@ void tst_CalibrationCatalogue::module_servesSeveralBodies()
 {
     QVERIFY(!column(u"SELECT cid FROM Module GROUP BY cid HAVING count(DISTINCT body) > 1"_qs).isEmpty());
     QCOMPARE(column(u"SELECT cid FROM Module GROUP BY cid HAVING count(DISTINCT name) > 1"_qs), QStringList());
+}
+
+/*! This lens has two mounts that fit the camera, and its ids by the second one. */
+void tst_CalibrationCatalogue::lensIds_areThoseOfAnyMountThatFits()
+{
+    QCOMPARE(
+        column(u"SELECT DISTINCT lens_id FROM Body JOIN Module ON body = Body.id WHERE identifier = 'PentaxK1' AND "
+               "name = 'smc Pentax-D FA Macro 100mm f/2.8 WR' ORDER BY lens_id"_qs),
+        (QStringList{u"4 52"_qs, u"7 58"_qs}));
 }
 
 /*! The word for none, a number, the pair of a Pentax, the triple of an Olympus, the eight bytes of a Nikon. */

@@ -12,6 +12,7 @@
 #include "PhotoMetadata.h"
 #include "ReferenceMenu.h"
 #include "ReferenceParts.h"
+#include "ReferenceTour.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
@@ -444,6 +445,9 @@ void tst_CalibrationPanel::panel_idOfManyLenses_isToldAsOne()
     panel.setPhoto(path(u"many.jpg"_qs));
     QCOMPARE(panel.findChild<QLabel *>(u"cafStateLabel"_qs)->text(), u"One of these modules may serve it:"_qs);
     QVERIFY(panel.findChild<QTableWidget *>()->rowCount() > 1);
+    const QString toldByTheTour = tourCalibration(path(u"many.jpg"_qs));
+    QVERIFY2(toldByTheTour.contains(u" mm: one of C"), qPrintable(toldByTheTour));
+    QVERIFY(!tourCalibration(sample).contains(u"one of"));
 }
 
 void tst_CalibrationPanel::panel_parts_haveNames()
